@@ -1,0 +1,22 @@
+# One interface target carries the language level, the warnings and the sanitizers for every target.
+add_library(kitwright_options INTERFACE)
+target_compile_features(kitwright_options INTERFACE cxx_std_20)
+target_compile_options(kitwright_options INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+target_include_directories(kitwright_options INTERFACE ${CMAKE_SOURCE_DIR})
+set(CMAKE_CXX_EXTENSIONS OFF)
+if("$ENV{CI}" OR KITWRIGHT_WERROR)
+  target_compile_options(kitwright_options INTERFACE -Werror)
+endif()
+if(KITWRIGHT_SANITIZE)
+  target_compile_options(kitwright_options INTERFACE
+    -fsanitize=${KITWRIGHT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
+  target_link_options(kitwright_options INTERFACE -fsanitize=${KITWRIGHT_SANITIZE})
+endif()
+if(KITWRIGHT_FUZZ)
+  target_compile_options(kitwright_options INTERFACE -fsanitize=fuzzer-no-link)
+endif()
+
+find_program(CCACHE ccache)
+if(CCACHE)
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE})
+endif()

@@ -1,0 +1,16 @@
+# QScintilla for Qt 6 ships no CMake package: finds its header and library and gives QScintilla::QScintilla.
+find_path(QScintilla_INCLUDE_DIR Qsci/qsciscintilla.h
+  HINTS ${Qt6Core_INCLUDE_DIRS} ${Qt6Widgets_INCLUDE_DIRS} PATH_SUFFIXES qt6
+  PATHS /usr/include/x86_64-linux-gnu/qt6 /usr/include/${CMAKE_LIBRARY_ARCHITECTURE}/qt6)
+find_library(QScintilla_LIBRARY NAMES qscintilla2_qt6)
+
+include(FindPackageHandleStandardArgs)
+find_package_handle_standard_args(QScintilla REQUIRED_VARS QScintilla_LIBRARY QScintilla_INCLUDE_DIR)
+
+if(QScintilla_FOUND AND NOT TARGET QScintilla::QScintilla)
+  add_library(QScintilla::QScintilla UNKNOWN IMPORTED)
+  set_target_properties(QScintilla::QScintilla PROPERTIES
+    IMPORTED_LOCATION ${QScintilla_LIBRARY}
+    INTERFACE_INCLUDE_DIRECTORIES ${QScintilla_INCLUDE_DIR}
+    INTERFACE_LINK_LIBRARIES "Qt6::Widgets;Qt6::PrintSupport")
+endif()
