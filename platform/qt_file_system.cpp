@@ -1,0 +1,196 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/qt_file_system.h"
+
+#include "platform/qt_text.h"
+#include "platform/write_in_place.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace kitwright {
+
+namespace {
+
+/// The path as the system takes it. A backslash separates folders, unless a file bears the name as it stands.
+QString nativePath(const std::string& path)
+{
+    const QString name = toQt(path);
+    if (!name.contains(QLatin1Char('\\')) || QFileInfo::exists(name))
+        return name;
+    return QString(name).replace(QLatin1Char('\\'), QLatin1Char('/'));
+}
+
+std::string reason(const QString& path, const QString& error)
+{
+    return fromQt(path + QLatin1String(": ") + error);
+}
+
+/// The file behind a chain of links, which need not exist; the path itself when it is no link.
+QString linkTarget(const QString& path)
+{
+    QString target = path;
+    constexpr int maxLinks = 40; // As many as the kernel follows; more is a circle.
+    for (int links = 0; links < maxLinks && QFileInfo(target).isSymLink(); ++links)
+        target = QFileInfo(target).symLinkTarget();
+    return target;
+}
+
+/// Gives the new file the owner and the modes of the one that it replaces, as far as the system lets us.
+void takeOwnership([[maybe_unused]] const QSaveFile& file, [[maybe_unused]] const QString& replaced)
+{
+#ifdef Q_OS_UNIX
+    struct stat before = {};
+    if (::stat(QFile::encodeName(replaced).constData(), &before) != 0)
+        return;
+    // The group alone may be given where the owner may not.
+    if (::fchown(file.handle(), before.st_uid, before.st_gid) != 0
+        && ::fchown(file.handle(), static_cast<uid_t>(-1), before.st_gid) != 0) {
+        return;
+    }
+    [[maybe_unused]] const int kept = ::fchmod(file.handle(), before.st_mode & 07777);
+#endif
+}
+
+/// Writes a file whole or not at all. `content` writes it to the device it is given and returns an error text, empty
+/// on success.
+template <class Content>
+Failure replaceFile(const QString& path, const Content& content)
+{
+    const QString target = linkTarget(path);
+    const QFileInfo before(target);
+    if (before.exists() && !before.isFile())
+        return reason(path, QStringLiteral("not a regular file"));
+
+    QSaveFile file(target);
+    if (!file.open(QIODevice::WriteOnly))
+        return reason(path, file.errorString());
+    takeOwnership(file, target);
+    if (const QString error = content(file); !error.isEmpty()) {
+        file.cancelWriting();
+        return reason(path, error);
+    }
+    if (!file.commit())
+        return reason(path, file.errorString());
+    return {};
+}
+
+/// True where a file can be written to, but its folder takes no new file beside it.
+bool onlyInPlace(const QString& target)
+{
+    const QFileInfo info(target);
+    return info.isFile() && info.isWritable() && !QFileInfo(info.absolutePath()).isWritable();
+}
+
+QString writeAll(QIODevice& device, std::string_view bytes)
+{
+    const auto size = static_cast<qint64>(bytes.size());
+    return device.write(bytes.data(), size) == size ? QString() : device.errorString();
+}
+
+QString copyAll(QFile& source, QIODevice& device)
+{
+    constexpr qint64 block = 1 << 20;
+    while (!source.atEnd()) {
+        const QByteArray bytes = source.read(block);
+        if (bytes.isEmpty())
+            return source.errorString();
+        if (device.write(bytes) != bytes.size())
+            return device.errorString();
+    }
+    return {};
+}
+
+bool isSameFile(const QString& left, const QString& right)
+{
+    const QString target = QFileInfo(right).canonicalFilePath();
+    return !target.isEmpty() && QFileInfo(left).canonicalFilePath() == target;
+}
+
+Outcome<std::vector<std::string>> list(const std::string& folder, QDir::Filters filters, QDir::SortFlags sorting)
+{
+    using Names = Outcome<std::vector<std::string>>;
+    const QString path = nativePath(folder);
+    const QFileInfo info(path);
+    if (!info.isDir() || !info.isReadable() || !info.isExecutable())
+        return Names::failed(reason(path, QStringLiteral("not a folder that can be read")));
+    std::vector<std::string> names;
+    for (const QString& name : QDir(path).entryList(filters, sorting))
+        names.push_back(fromQt(name));
+    return names;
+}
+
+} // namespace
+
+bool QtFileSystem::fileExists(const std::string& path) const
+{
+    return !path.empty() && QFileInfo(nativePath(path)).isFile();
+}
+
+Outcome<std::string> QtFileSystem::readBytes(const std::string& path) const
+{
+    using Bytes = Outcome<std::string>;
+    const QString name = nativePath(path);
+    if (!QFileInfo(name).isFile())
+        return Bytes::failed(reason(name, QStringLiteral("not a file")));
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        return Bytes::failed(reason(name, file.errorString()));
+
+    std::string bytes(static_cast<std::size_t>(file.size()), '\0');
+    qint64 read = 0;
+    while (read < static_cast<qint64>(bytes.size())) {
+        const qint64 got = file.read(bytes.data() + read, static_cast<qint64>(bytes.size()) - read);
+        if (got <= 0)
+            break;
+        read += got;
+    }
+    if (read < static_cast<qint64>(bytes.size()))
+        return Bytes::failed(reason(name, QStringLiteral("read only %1 of %2 bytes").arg(read).arg(bytes.size())));
+    return bytes;
+}
+
+Failure QtFileSystem::writeBytes(const std::string& path, std::string_view bytes)
+{
+    const QString name = nativePath(path);
+    const QString target = linkTarget(name);
+    if (onlyInPlace(target)) {
+        const QString error = writeInPlace(target, bytes);
+        return error.isEmpty() ? Failure() : Failure(reason(name, error));
+    }
+    return replaceFile(name, [&](QIODevice& device) { return writeAll(device, bytes); });
+}
+
+Failure QtFileSystem::copyFile(const std::string& from, const std::string& to)
+{
+    const QString source = nativePath(from);
+    const QString target = nativePath(to);
+    if (!QFileInfo(source).isFile())
+        return reason(source, QStringLiteral("not a file"));
+    if (isSameFile(source, target))
+        return {};
+    QFile file(source);
+    if (!file.open(QIODevice::ReadOnly))
+        return reason(source, file.errorString());
+    return replaceFile(target, [&](QIODevice& device) { return copyAll(file, device); });
+}
+
+Outcome<std::vector<std::string>> QtFileSystem::listFiles(const std::string& folder) const
+{
+    return list(folder, QDir::Files | QDir::Hidden, QDir::Unsorted);
+}
+
+Outcome<std::vector<std::string>> QtFileSystem::listFolders(const std::string& folder) const
+{
+    return list(folder, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+}
+
+} // namespace kitwright

@@ -1,0 +1,293 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/scintilla_text_box.h"
+
+#include "platform/scintilla_control.h"
+#include "platform/text_files.h"
+
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <array>
+
+namespace kitwright {
+
+namespace {
+
+using Sci = QsciScintillaBase;
+
+/// The changes that the box hears of. Styling is not among them, nor is anything that costs per character.
+constexpr unsigned long heardChanges
+    = Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT | Sci::SC_MOD_BEFOREDELETE | Sci::SC_MOD_INSERTCHECK;
+
+constexpr int undoOrRedo = Sci::SC_PERFORMED_UNDO | Sci::SC_PERFORMED_REDO;
+
+unsigned long wide(Position position)
+{
+    return static_cast<unsigned long>(position);
+}
+
+/// True for text that can enter as it stands: ASCII with no line end that needs mending.
+bool isPlainAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), [](char character) {
+        return static_cast<unsigned char>(character) < 0x80 && character != '\r' && character != '\n';
+    });
+}
+
+} // namespace
+
+ScintillaTextBox::ScintillaTextBox(ScintillaControl& control, const CodePage& codePage)
+    : m_control(control), m_codePage(codePage), m_styles(control)
+{
+    m_styles.define();
+    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, heardChanges);
+    connect(&m_control, &Sci::SCN_MODIFIED, this,
+            [this](int position, int kind, const char* text, int length) { modified(position, kind, text, length); });
+    connect(&m_control, &ScintillaControl::eventHandled, this, &ScintillaTextBox::settle);
+}
+
+Position ScintillaTextBox::length() const
+{
+    return static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETLENGTH));
+}
+
+std::string_view ScintillaTextBox::text() const
+{
+    const auto* characters = static_cast<const char*>(m_control.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
+    return {characters, length()};
+}
+
+char ScintillaTextBox::at(Position position) const
+{
+    return static_cast<char>(m_control.SendScintilla(Sci::SCI_GETCHARAT, wide(position)));
+}
+
+std::string_view ScintillaTextBox::range(Position start, Position length) const
+{
+    const Selection part = cut(start, length);
+    if (part.length == 0)
+        return {};
+    const auto* characters = reinterpret_cast<const char*>(m_control.SendScintilla(
+        Sci::SCI_GETRANGEPOINTER, wide(part.start), static_cast<long>(part.length)));
+    return {characters, part.length};
+}
+
+void ScintillaTextBox::setText(std::string_view text)
+{
+    {
+        const UndoStep step(*this);
+        m_control.SendScintilla(Sci::SCI_TARGETWHOLEDOCUMENT);
+        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+        select(0, 0);
+    }
+    settle();
+}
+
+void ScintillaTextBox::loadText(std::string_view text)
+{
+    // Nothing of the load is answered, checked or kept for undo, so the control takes the text in one copy.
+    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, 0UL);
+    m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 0UL);
+    m_control.SendScintilla(Sci::SCI_CLEARALL);
+    m_control.SendScintilla(Sci::SCI_ALLOCATE, text.size());
+    m_control.SendScintilla(Sci::SCI_APPENDTEXT, text.size(), text.data());
+    m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 1UL);
+    m_control.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
+    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, heardChanges);
+    m_control.setCursorPosition(0, 0);
+    m_allPlain = true;
+    Q_EMIT m_control.linesChanged();
+}
+
+Position ScintillaTextBox::caret() const
+{
+    return static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETCURRENTPOS));
+}
+
+Selection ScintillaTextBox::selection() const
+{
+    const auto start = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETSELECTIONSTART));
+    const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETSELECTIONEND));
+    return {start, end - start};
+}
+
+void ScintillaTextBox::select(Position start, Position length)
+{
+    const Selection part = cut(start, length);
+    m_control.SendScintilla(Sci::SCI_SETSELECTION, wide(part.start + part.length), static_cast<long>(part.start));
+}
+
+void ScintillaTextBox::replaceSelection(std::string_view text)
+{
+    {
+        const UndoStep step(*this);
+        m_control.SendScintilla(Sci::SCI_TARGETFROMSELECTION);
+        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+        const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));
+        select(end, 0);
+    }
+    settle();
+}
+
+void ScintillaTextBox::replaceRange(Position start, Position length, std::string_view text)
+{
+    const Selection part = cut(start, length);
+    const Position oldCaret = caret();
+    const auto oldAnchor = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETANCHOR));
+    {
+        const UndoStep step(*this);
+        m_control.SendScintilla(Sci::SCI_SETTARGETRANGE, wide(part.start), static_cast<long>(part.start + part.length));
+        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+    }
+    const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));
+    const auto moved = [&](Position position) {
+        if (position <= part.start)
+            return position;
+        if (position >= part.start + part.length)
+            return position - part.length - part.start + end;
+        return std::min(position, end);
+    };
+    m_control.SendScintilla(Sci::SCI_SETSELECTION, wide(moved(oldCaret)), static_cast<long>(moved(oldAnchor)));
+    settle();
+}
+
+TextStyle ScintillaTextBox::styleAt(Position position) const
+{
+    const long number = m_control.SendScintilla(Sci::SCI_GETSTYLEAT, wide(position));
+    return m_styles.styleOf(static_cast<unsigned char>(number));
+}
+
+void ScintillaTextBox::styleRange(Position start, Position length, const TextStyle& style)
+{
+    const Selection part = cut(start, length);
+    m_control.SendScintilla(Sci::SCI_STARTSTYLING, wide(part.start));
+    m_control.SendScintilla(Sci::SCI_SETSTYLING, wide(part.length), long{m_styles.numberOf(style)});
+    m_allPlain = false;
+}
+
+void ScintillaTextBox::styleAll(const StyleMap& styles)
+{
+    std::array<char, 256> numberFor{};
+    for (std::size_t entry = 0; entry < styles.palette.size(); ++entry)
+        numberFor[entry] = static_cast<char>(m_styles.numberOf(styles.palette[entry]));
+
+    // Block by block, so that the bytes are still in the processor's cache when the control reads them.
+    constexpr Position blockSize = 1 << 16;
+    std::string numbers;
+    m_control.SendScintilla(Sci::SCI_STARTSTYLING, 0UL);
+    for (Position start = 0; start < styles.entries.size(); start += blockSize) {
+        const std::string_view entries = std::string_view(styles.entries).substr(start, blockSize);
+        numbers.resize(entries.size());
+        std::transform(entries.begin(), entries.end(), numbers.begin(),
+                       [&](char entry) { return numberFor[static_cast<unsigned char>(entry)]; });
+        if (!m_allPlain)
+            keepStyles(numbers, entries, start);
+        m_control.SendScintilla(Sci::SCI_SETSTYLINGEX, numbers.size(), numbers.data());
+    }
+    m_allPlain = false;
+}
+
+/// Puts the present numbers where the map asks to keep them.
+void ScintillaTextBox::keepStyles(std::string& numbers, std::string_view entries, Position start) const
+{
+    for (std::size_t i = entries.find(StyleMap::keep); i != std::string_view::npos;
+         i = entries.find(StyleMap::keep, i + 1)) {
+        numbers[i] = static_cast<char>(m_control.SendScintilla(Sci::SCI_GETSTYLEAT, wide(start + i)));
+    }
+}
+
+void ScintillaTextBox::beginUndoStep()
+{
+    m_control.SendScintilla(Sci::SCI_BEGINUNDOACTION);
+}
+
+void ScintillaTextBox::endUndoStep()
+{
+    m_control.SendScintilla(Sci::SCI_ENDUNDOACTION);
+}
+
+void ScintillaTextBox::undo()
+{
+    m_control.SendScintilla(Sci::SCI_UNDO);
+    settle();
+}
+
+void ScintillaTextBox::redo()
+{
+    m_control.SendScintilla(Sci::SCI_REDO);
+    settle();
+}
+
+void ScintillaTextBox::modified(int position, int kind, const char* text, int length)
+{
+    const auto start = static_cast<Position>(position);
+    const auto size = static_cast<std::size_t>(length);
+    if (kind & Sci::SC_MOD_INSERTCHECK) {
+        checkInsertion(start, {text, size});
+    } else if ((kind & Sci::SC_MOD_BEFOREDELETE) && !(kind & undoOrRedo)) {
+        announce({start, size, {}});
+    } else if ((kind & (Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT)) && !m_answering) {
+        m_changed = true;
+        m_undoRedo = (kind & undoOrRedo) != 0;
+        // An edit that comes neither from an event nor through this box is answered as soon as events run again.
+        if (!m_settleQueued) {
+            m_settleQueued = true;
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    m_settleQueued = false;
+                    settle();
+                },
+                Qt::QueuedConnection);
+        }
+    }
+}
+
+void ScintillaTextBox::checkInsertion(Position position, std::string_view text)
+{
+    if (isPlainAscii(text) || text == "\r\n") {
+        announce({position, 0, text});
+        return;
+    }
+    const std::string keepable = withCrLf(m_codePage.keepable(text));
+    if (keepable != text)
+        m_control.SendScintilla(Sci::SCI_CHANGEINSERTION, keepable.size(), keepable.data());
+    announce({position, 0, keepable});
+}
+
+/// Opens an undo step around a coming edit when the observer will edit in answer to it.
+void ScintillaTextBox::announce(const PendingEdit& edit)
+{
+    if (!m_observer || m_answering || m_joined || m_control.isComposing())
+        return;
+    if (m_observer->willEditAfter(edit)) {
+        m_control.SendScintilla(Sci::SCI_BEGINUNDOACTION);
+        m_joined = true;
+    }
+}
+
+void ScintillaTextBox::settle()
+{
+    if (m_answering || m_control.isComposing())
+        return;
+    if (m_changed && m_observer) {
+        const QScopedValueRollback answering(m_answering, true);
+        m_observer->textChanged(m_undoRedo ? ChangeOrigin::UndoRedo : ChangeOrigin::Edit);
+    }
+    m_changed = false;
+    if (m_joined) {
+        m_joined = false;
+        m_control.SendScintilla(Sci::SCI_ENDUNDOACTION);
+    }
+}
+
+Selection ScintillaTextBox::cut(Position start, Position length) const
+{
+    const Position end = this->length();
+    start = std::min(start, end);
+    return {start, std::min(length, end - start)};
+}
+
+} // namespace kitwright

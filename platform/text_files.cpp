@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/text_files.h"
+
+namespace kitwright {
+
+Outcome<std::string> TextFiles::read(const std::string& path) const
+{
+    Outcome<std::string> bytes = m_files.readBytes(path);
+    if (bytes)
+        *bytes = m_codePage.decode(*bytes);
+    return bytes;
+}
+
+Outcome<std::string> TextFiles::readMarked(const std::string& path) const
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    Outcome<std::string> bytes = m_files.readBytes(path);
+    if (!bytes)
+        return bytes;
+    if (bytes->starts_with(mark))
+        *bytes = m_codePage.keepable(std::string_view(*bytes).substr(mark.size()));
+    else
+        *bytes = m_codePage.decode(*bytes);
+    return bytes;
+}
+
+Failure TextFiles::write(const std::string& path, std::string_view text)
+{
+    return m_files.writeBytes(path, m_codePage.encode(text));
+}
+
+std::vector<std::string_view> dataLines(std::string_view text)
+{
+    std::vector<std::string_view> lines;
+    while (!text.empty()) {
+        const std::size_t end = text.find('\r');
+        lines.push_back(text.substr(0, end));
+        if (end == std::string_view::npos)
+            break;
+        text.remove_prefix(end + 1);
+        if (text.starts_with('\n'))
+            text.remove_prefix(1);
+    }
+    return lines;
+}
+
+namespace {
+
+/// True when every CR is followed by LF and every LF preceded by CR.
+bool hasOnlyCrLf(std::string_view text)
+{
+    for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos; i = text.find_first_of("\r\n", i + 2)) {
+        if (text.substr(i, 2) != "\r\n")
+            return false;
+    }
+    return true;
+}
+
+} // namespace
+
+std::string withCrLf(std::string text)
+{
+    if (hasOnlyCrLf(text))
+        return text;
+    std::string result;
+    result.reserve(text.size() + text.size() / 16);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            result += "\r\n";
+            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+                ++i;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+} // namespace kitwright

@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/code_page.h"
+#include "platform/file_system.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kitwright {
+
+/// Text files in the 8-bit code page: on the disk one byte a character, inside the program UTF-8.
+class TextFiles {
+public:
+    TextFiles(FileSystem& files, const CodePage& codePage) : m_files(files), m_codePage(codePage) {}
+
+    /// The whole text of a file, line ends as they stand in it.
+    Outcome<std::string> read(const std::string& path) const;
+
+    /// As `read`, but a file that starts with a UTF-8 byte order mark is taken as UTF-8, without the mark.
+    Outcome<std::string> readMarked(const std::string& path) const;
+
+    /// Creates or replaces the file with the text as it stands, whole or not at all.
+    Failure write(const std::string& path, std::string_view text);
+
+    const CodePage& codePage() const { return m_codePage; }
+
+private:
+    FileSystem& m_files;
+    const CodePage& m_codePage;
+};
+
+/// The lines of a data file: a line ends at CR or at CR LF; a bare LF is part of the line. A last line without
+/// an end counts; an empty text has no line. The views point into `text`.
+std::vector<std::string_view> dataLines(std::string_view text);
+
+/// The text with every line end, bare LF and bare CR included, as CR LF.
+std::string withCrLf(std::string text);
+
+} // namespace kitwright

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+
+#include <string_view>
+
+namespace kitwright {
+
+/// Replaces a file's content without a second file beside it, for folders that take no new one. Room on the disk is
+/// claimed before the first byte of the old content is touched, so that a full disk leaves the old file; only a
+/// crash in the middle can tear it. Returns an error text, empty on success.
+QString writeInPlace(const QString& path, std::string_view bytes);
+
+} // namespace kitwright
