@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "services/config_scanner.h"
+
+#include "services/find_text.h"
+#include "services/letter_case.h"
+
+namespace kitwright {
+
+void ReadPatchClassName(std::string_view text, std::string& PatchClassName)
+{
+    constexpr std::string_view keyword = "CFGPATCHES";
+    const std::size_t found = findIgnoringCase(text, keyword);
+    // The scan starts on the keyword's last letter; without a keyword, on the ninth character.
+    const std::size_t start = found == std::string_view::npos ? 8 : found + keyword.size() - 1;
+
+    long depth = 0;
+    bool entered = false;
+    bool classNext = false;
+    std::size_t wordStart = start;
+
+    for (std::size_t i = start; i < text.size(); ++i) {
+        const char character = text[i];
+        if (character == '{')
+            ++depth;
+        if (depth == 1)
+            entered = true;
+        if (character == ' ' || character == '\r' || character == '\n') {
+            const std::string_view word = text.substr(wordStart, i - wordStart);
+            if (classNext) {
+                PatchClassName = word;
+                classNext = false;
+                depth = 0;
+            }
+            if (word.size() == 5 && equalIgnoringCase(word, "CLASS"))
+                classNext = true;
+            wordStart = i + 1;
+        }
+        if (character == '}')
+            --depth;
+        if (depth == 0 && entered)
+            return;
+    }
+}
+
+} // namespace kitwright

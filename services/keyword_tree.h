@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/text_files.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kitwright {
+
+/// One entry of a keyword tree.
+struct TreeNode {
+    static constexpr int noParent = -1;
+
+    std::string text;
+    std::string key;       ///< Position from 1, "VNORENI", level, text: "4VNORENI2gunBeg".
+    int level = 0;         ///< 0 for headings.
+    int parent = noParent; ///< Index of the parent, from 0.
+    bool hasChildren = false;
+
+    /// Headings insert nothing when they are clicked.
+    bool isHeading() const { return key.find("VNORENI0") != std::string::npos; }
+
+    /// Entries right below a heading, and those whose level begins with the digit 1 as well.
+    bool isFirstLevel() const { return key.find("VNORENI1") != std::string::npos; }
+};
+
+/// The entries of a keyword-tree file, in the order of its lines.
+class KeywordTree {
+public:
+    const std::vector<TreeNode>& nodes() const { return m_nodes; }
+
+    /// Index of the first node whose text equals `text` without regard to letter case, or nothing.
+    std::optional<int> find(std::string_view text) const;
+
+    /// Adds a node; `parent` is an index from 0, or TreeNode::noParent for a top-level one.
+    void add(std::string_view text, int level, int parent);
+
+private:
+    std::vector<TreeNode> m_nodes;
+};
+
+/// The number of spaces at the start of a text.
+int SpocitejMezery(std::string_view Retezec);
+
+/// Counts the nodes whose key contains `Key` and sets `Key2` to the key of the last of them; `Key2` stays when there
+/// is none.
+int SpocitejIndexy(std::string_view Key, std::string& Key2, const KeywordTree& Strom);
+
+/// Adds the lines of a keyword-tree file to the tree. A line goes under the last entry one level up; where none has
+/// been seen yet, under the last parent that was found, and a line without any is not created.
+void addTreeLines(std::string_view text, KeywordTree& tree);
+
+/// Loads a keyword-tree file into a tree.
+Failure NactiTridy(const TextFiles& texts, const std::string& path, KeywordTree& tree);
+
+} // namespace kitwright
