@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/colouring.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kitwright {
+
+namespace {
+
+/// Entries of the palette of a full pass.
+enum Paint : char { Plain, ConfigCommand, CLanguageWord, ClassName, Comment };
+
+/// Where a word may end or a comment may begin; every other byte is skipped.
+constexpr std::array<bool, 256> isNotable = [] {
+    std::array<bool, 256> table{};
+    for (const unsigned char character : {' ', '\r', '\n', '/'})
+        table[character] = true;
+    return table;
+}();
+
+class Pass {
+public:
+    Pass(std::string_view text, const KeywordList& keywords) : m_text(text), m_keywords(keywords)
+    {
+        m_entries.resize(text.size(), StyleMap::keep);
+    }
+
+    void run()
+    {
+        Position wordStart = 0;
+        const Position end = m_text.size();
+        for (Position i = 0; i < end;) {
+            const char character = m_text[i];
+            if (!isNotable[static_cast<unsigned char>(character)]) {
+                ++i;
+            } else if (character != '/') {
+                word(wordStart, i);
+                wordStart = ++i;
+            } else if (i + 1 < end && m_text[i + 1] == '/') {
+                i = comment(i);
+                wordStart = i;
+            } else {
+                ++i;
+            }
+        }
+    }
+
+    std::string takeEntries() { return std::move(m_entries); }
+    std::vector<Respelling> takeRespellings() { return std::move(m_respellings); }
+
+private:
+    void paint(Position start, Position end, char entry)
+    {
+        std::fill(m_entries.begin() + static_cast<std::ptrdiff_t>(start),
+                  m_entries.begin() + static_cast<std::ptrdiff_t>(end), entry);
+    }
+
+    void word(Position start, Position end)
+    {
+        if (start == end)
+            return;
+        const std::string_view characters = m_text.substr(start, end - start);
+        const int keyword = m_keywords.find(characters);
+        if (keyword < 0) {
+            paint(start, end, Plain);
+            return;
+        }
+        if (m_keywords.textAt(keyword) != characters)
+            m_respellings.push_back({start, keyword});
+        const auto keywordClass = static_cast<int>(m_keywords.classAt(keyword));
+        if (keywordClass >= ConfigCommand && keywordClass <= ClassName)
+            paint(start, end, static_cast<char>(keywordClass));
+    }
+
+    /// Paints the comment that starts at a position, its line break included; returns the place behind it.
+    Position comment(Position start)
+    {
+        const std::size_t lineFeed = m_text.find('\n', start);
+        const Position end = lineFeed == std::string_view::npos ? m_text.size() : lineFeed + 1;
+        paint(start, end, Comment);
+        return end;
+    }
+
+    std::string_view m_text;
+    const KeywordList& m_keywords;
+    std::string m_entries;
+    std::vector<Respelling> m_respellings;
+};
+
+} // namespace
+
+std::optional<TextStyle> keywordStyle(KeywordClass keywordClass, const EditorSettings& settings)
+{
+    switch (keywordClass) {
+    case KeywordClass::ConfigCommand:
+        return TextStyle{settings.ConfigKeywordColor, settings.ConfigKeywordBold, settings.ConfigKeywordItalic};
+    case KeywordClass::CLanguageWord:
+        return TextStyle{settings.CKeywordColor, settings.CKeywordBold, settings.CKeywordItalic};
+    case KeywordClass::ClassName:
+        return TextStyle{settings.ClassNameColor, settings.ClassNameBold, settings.ClassNameItalic};
+    }
+    return std::nullopt;
+}
+
+TextStyle commentStyle(const EditorSettings& settings)
+{
+    return {settings.CommentColor, settings.CommentBold, settings.CommentItalic};
+}
+
+FullPass colourText(std::string_view text, const KeywordList& keywords, const EditorSettings& settings)
+{
+    Pass pass(text, keywords);
+    pass.run();
+    FullPass result;
+    result.styles.palette = {TextStyle{}, *keywordStyle(KeywordClass::ConfigCommand, settings),
+                             *keywordStyle(KeywordClass::CLanguageWord, settings),
+                             *keywordStyle(KeywordClass::ClassName, settings), commentStyle(settings)};
+    result.styles.entries = pass.takeEntries();
+    result.respellings = pass.takeRespellings();
+    return result;
+}
+
+void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings)
+{
+    const FullPass pass = colourText(box.text(), keywords, settings);
+    if (!pass.respellings.empty()) {
+        const UndoStep step(box);
+        for (const Respelling& respelling : pass.respellings) {
+            const std::string_view spelling = keywords.textAt(respelling.keyword);
+            box.replaceRange(respelling.start, spelling.size(), spelling);
+        }
+    }
+    box.styleAll(pass.styles);
+}
+
+} // namespace kitwright

@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/keyword_list.h"
+#include "platform/rich_text_box.h"
+#include "services/settings.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kitwright {
+
+/// The style of a keyword; nothing for a class number that has none.
+std::optional<TextStyle> keywordStyle(KeywordClass keywordClass, const EditorSettings& settings);
+
+TextStyle commentStyle(const EditorSettings& settings);
+
+/// A keyword that the document spells otherwise than the keyword list; both spellings are equally long.
+struct Respelling {
+    Position start = 0;
+    int keyword = 0; ///< Index in the keyword list.
+};
+
+/// What a full pass makes of a text.
+struct FullPass {
+    StyleMap styles;
+    std::vector<Respelling> respellings; ///< In order.
+};
+
+/// Styles every word that a space or a line break ends, and every comment. What the pass does not touch keeps its
+/// style: blanks, what is glued to the front of a comment, and a word that ends the text.
+FullPass colourText(std::string_view text, const KeywordList& keywords, const EditorSettings& settings);
+
+/// Full pass over a box: styles and respells the whole text. Caret and selection stay; the respellings are one undo
+/// step, styles are none.
+void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings);
+
+} // namespace kitwright

@@ -1,0 +1,147 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/document_commands.h"
+
+#include "app/starting_text.h"
+#include "services/config_scanner.h"
+#include "services/letter_case.h"
+#include "services/paths.h"
+
+namespace kitwright {
+
+namespace {
+
+constexpr const char* configFilter = "Config files|*.cpp*";
+constexpr const char* configAndAllFilter = "Config files|*.cpp*|All files|*.*";
+
+} // namespace
+
+DocumentCommands::DocumentCommands(Context& context, ProgramLauncher& launcher, DocumentSurroundings& surroundings)
+    : m_context(context), m_launcher(launcher), m_surroundings(surroundings)
+{
+    CommonDialog1.defaultExtension = "cpp";
+}
+
+void DocumentCommands::newDocument()
+{
+    m_context.state.CurrentFile.clear();
+    // A text that did not reach the disk stays in the editor.
+    if (!UlozAddon())
+        return;
+    m_context.host.configedit().setText("");
+    if (!m_context.state.Settings.InsertBaseText)
+        return;
+    askForPatchClassName();
+    VlozText(m_context.state.PatchClassName);
+    m_surroundings.refresh();
+}
+
+void DocumentCommands::open()
+{
+    m_surroundings.setColouringEnabled(false);
+    CommonDialog1.filter = configFilter;
+    CommonDialog1.fileName = "Config.cpp";
+    const auto path = m_context.dialogs.openFile(CommonDialog1);
+    if (path && !path->empty() && NactiConfig(*path, m_context.host.configedit())) {
+        m_context.state.CurrentFile = *path;
+        m_surroundings.setCaption(m_context.text(0) + " - " + *path);
+        ReadPatchClassName(m_context.host.configedit().text(), m_context.state.PatchClassName);
+        m_surroundings.readStringtable(*path);
+        m_context.host.Uprav2();
+    }
+    m_surroundings.setColouringEnabled(true);
+}
+
+bool DocumentCommands::UlozAddon()
+{
+    std::string& CurrentFile = m_context.state.CurrentFile;
+    if (CurrentFile.empty() && !askForFile())
+        return false;
+    const bool written = UlozConfig(CurrentFile);
+    m_surroundings.WriteStringtable(FolderOf(CurrentFile) + "Stringtable.csv");
+    return written;
+}
+
+/// Lets the author choose where a document that has no path shall be; false when the choice was cancelled.
+bool DocumentCommands::askForFile()
+{
+    CommonDialog1.filter = configFilter;
+    CommonDialog1.fileName = "config.cpp";
+    CommonDialog1.title = m_context.text(65);
+    const auto path = m_context.dialogs.saveFile(CommonDialog1);
+    if (!path || path->empty())
+        return false;
+
+    m_context.state.CurrentFile = *path;
+    const std::string name = FileNameOf(*path);
+    if (upperCased(name) == "CONFIG.CPP")
+        return true;
+    const std::string question = m_context.text(66) + "\r\n" + m_context.text(67) + name + "\r\n" + m_context.text(68);
+    if (m_context.dialogs.askYesNo(question))
+        m_context.state.CurrentFile = FolderOf(*path) + "Config.cpp";
+    return true;
+}
+
+void DocumentCommands::saveAs()
+{
+    m_context.state.CurrentFile.clear();
+    CommonDialog1.filter = configAndAllFilter;
+    CommonDialog1.fileName = "config.cpp";
+    CommonDialog1.title = m_context.text(60);
+    const auto path = m_context.dialogs.saveFile(CommonDialog1);
+    if (!path || path->empty())
+        return;
+    m_context.state.CurrentFile = *path;
+    UlozConfig(*path);
+}
+
+void DocumentCommands::makePbo()
+{
+    if (m_context.state.CurrentFile.empty()) {
+        m_context.dialogs.showMessage(m_context.text(61));
+        return;
+    }
+    if (m_context.state.PatchClassName.empty())
+        askForPatchClassName();
+    m_surroundings.stepFailed("starting the packer",
+                              m_launcher.start(m_context.inProgramFolder("/brakpak.exe"), packerArgument(m_context.state)));
+}
+
+void DocumentCommands::VlozText(const std::string& Jmeno)
+{
+    const std::string version = m_context.dialogs.askText(m_context.text(69));
+    m_context.host.configedit().setText(startingText(Jmeno, version));
+    m_surroundings.refresh();
+}
+
+/// Sets the editor's text to the content of the file. A file that cannot be read leaves the editor as it was.
+bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole)
+{
+    Outcome<std::string> text = m_context.texts.read(Soubor);
+    if (!text) {
+        m_surroundings.stepFailed("opening", text.reason());
+        return false;
+    }
+    TextovePole.loadText(withCrLf(std::move(*text)));
+    return true;
+}
+
+bool DocumentCommands::UlozConfig(const std::string& Cesta)
+{
+    const Failure failure = m_context.texts.write(Cesta, m_context.host.configedit().text());
+    m_surroundings.stepFailed("saving", failure);
+    return !failure;
+}
+
+void DocumentCommands::askForPatchClassName()
+{
+    m_context.state.PatchClassName = m_context.dialogs.askText(m_context.text(59));
+}
+
+std::string packerArgument(const SharedState& state)
+{
+    return "  " + state.CurrentFile + "," + state.Settings.PboFolder + "\\" + state.PatchClassName + ".pbo,2";
+}
+
+} // namespace kitwright

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/keyword_list.h"
+#include "platform/rich_text_box.h"
+#include "services/settings.h"
+
+namespace kitwright {
+
+/// Colours the word around the character just typed, after every change of the document's text. It reads the
+/// characters around the caret only.
+class LiveColouring final : public TextObserver {
+public:
+    /// Watches the box from now on; box, list and settings must outlive it.
+    LiveColouring(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings);
+    ~LiveColouring() override;
+    LiveColouring(const LiveColouring&) = delete;
+    LiveColouring& operator=(const LiveColouring&) = delete;
+
+    /// False until start-up has ended and while the program itself rewrites the document: changes are then ignored.
+    bool ColouringEnabled = false;
+
+    /// Between the two, changes are ignored whatever `ColouringEnabled` says; pairs may nest.
+    void hold() { ++m_held; }
+    void release() { --m_held; }
+
+    bool willEditAfter(const PendingEdit& edit) override;
+    void textChanged(ChangeOrigin origin) override;
+
+private:
+    RichTextBox& m_box;
+    const KeywordList& m_keywords;
+    const EditorSettings& m_settings;
+
+    bool isOff() const { return m_settings.KeywordColouringOff || !ColouringEnabled || m_held > 0; }
+
+    int m_held = 0;
+
+    /// The line being typed into is taken to be inside a comment.
+    bool InComment = false;
+};
+
+} // namespace kitwright

@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/application.h"
+#include "platform/qt_dialogs.h"
+#include "platform/qt_file_system.h"
+#include "platform/qt_program_launcher.h"
+#include "platform/qt_text.h"
+#include "platform/windows_1250.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[])
+{
+    QApplication desktop(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("kitwright"));
+
+    kitwright::QtFileSystem files;
+    kitwright::TextFiles texts(files, kitwright::windows1250());
+    kitwright::QtDialogs dialogs;
+    kitwright::QtProgramLauncher launcher;
+
+    kitwright::Application application({files, texts, dialogs, launcher},
+                                       kitwright::fromQt(QApplication::applicationDirPath()));
+    application.start();
+    application.mainWindow().showFitted();
+    return QApplication::exec();
+}

@@ -1,0 +1,245 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "app/main_window.h"
+
+#include "app/browser_clicks.h"
+#include "app/colouring.h"
+#include "app/log.h"
+#include "app/wait_window.h"
+#include "platform/brace_matcher.h"
+#include "platform/line_number_margin.h"
+#include "platform/qt_text.h"
+#include "platform/report.h"
+#include "ui_main_window.h"
+
+#include <QCloseEvent>
+#include <QScreen>
+
+
+namespace kitwright {
+
+namespace {
+
+/// The inner size of the window that the controls are placed for in the designer.
+constexpr double designedWidth = 1000;
+constexpr double designedHeight = 640;
+
+std::unique_ptr<Ui::fmrconfigedit> setUp(fmrconfigedit& window)
+{
+    auto ui = std::make_unique<Ui::fmrconfigedit>();
+    ui->setupUi(&window);
+    return ui;
+}
+
+} // namespace
+
+fmrconfigedit::fmrconfigedit(const Desktop& desktop, SharedState& state, const KeywordList& keywords,
+                             WindowSupplier& windows)
+    : m_context{state, desktop.files, desktop.texts, desktop.dialogs, *this}, m_windows(windows),
+      m_keywords(keywords), m_ui(setUp(*this)), m_box(*m_ui->configedit, desktop.texts.codePage()),
+      m_live(m_box, keywords, state.Settings), m_commands(m_context, desktop.launcher, *this)
+{
+    new BraceMatcher(*m_ui->configedit);
+    new LineNumberMargin(*m_ui->configedit);
+    for (QMenu* menu : findChildren<QMenu*>())
+        menu->menuAction()->setObjectName(menu->objectName());
+    m_ui->centralwidget->installEventFilter(this);
+    connectDocumentCommands();
+    connectWindows();
+    connectBrowsers();
+    m_ui->configedit->setFocus();
+}
+
+fmrconfigedit::~fmrconfigedit() = default;
+
+void fmrconfigedit::connectDocumentCommands()
+{
+    const auto command = [this](QAbstractButton* button, QAction* action, auto handler) {
+        connect(button, &QAbstractButton::clicked, this, handler);
+        connect(action, &QAction::triggered, this, handler);
+    };
+    command(m_ui->cmdnew, m_ui->mnufilenew, [this] { m_commands.newDocument(); });
+    command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });
+    command(m_ui->cmdsave, m_ui->mnusave, [this] { m_commands.UlozAddon(); });
+    command(m_ui->cmdsaveas, m_ui->mnusaveas, [this] { m_commands.saveAs(); });
+    connect(m_ui->cmdrefresh, &QAbstractButton::clicked, this, [this] { refresh(); });
+    connect(m_ui->Command2, &QPushButton::clicked, this, [this] { m_commands.makePbo(); });
+    connect(m_ui->mnufilekonec, &QAction::triggered, this, [this] { m_windows.UnloadAllWindows(); });
+    connect(m_ui->Command1, &QPushButton::clicked, this, [this] { m_windows.UnloadAllWindows(); });
+}
+
+void fmrconfigedit::connectWindows()
+{
+    const auto opens = [this](auto* sender, auto signal, void (WindowSupplier::*showing)(QStringView), QStringView name) {
+        connect(sender, signal, this, [this, showing, name] { (m_windows.*showing)(name); });
+    };
+    const auto clicked = &QAbstractButton::clicked;
+    const auto triggered = &QAction::triggered;
+    opens(m_ui->cmdrejstrik, clicked, &WindowSupplier::showModal, u"frmrejstrik2");
+    opens(m_ui->cmdstrings, clicked, &WindowSupplier::showBeside, u"Form4");
+    opens(m_ui->cmdsetup, clicked, &WindowSupplier::showModal, u"Form5");
+    opens(m_ui->cmdhelp, clicked, &WindowSupplier::showBeside, u"Form9");
+    opens(m_ui->mnuwizardfaces, triggered, &WindowSupplier::showBeside, u"frmfaceaddon");
+    opens(m_ui->mnuwizardgun, triggered, &WindowSupplier::showBeside, u"Form1");
+    opens(m_ui->mnuammoadd, triggered, &WindowSupplier::showBeside, u"Form3");
+    opens(m_ui->mnuwizardvehikly, triggered, &WindowSupplier::showBeside, u"frmvehikl");
+    opens(m_ui->mnusetupedit, triggered, &WindowSupplier::showModal, u"Form5");
+    opens(m_ui->mnijazyk, triggered, &WindowSupplier::showModal, u"Form7");
+    opens(m_ui->mnuabout, triggered, &WindowSupplier::showModal, u"Form8");
+}
+
+void fmrconfigedit::connectBrowsers()
+{
+    // The handlers get at the nodes through the trees that start-up has shown; an empty browser sends no click.
+    connect(m_ui->classes, &BrowserTree::nodeClicked, this, [this](const TreeNode& node) {
+        classClicked(*this, node, m_context.state.Settings.DeclareFromRoot);
+        m_ui->configedit->ensureCursorVisible();
+    });
+    connect(m_ui->commands, &BrowserTree::nodeClicked, this, [this](const TreeNode& node) {
+        commandClicked(*this, node);
+        m_ui->configedit->ensureCursorVisible();
+    });
+}
+
+void fmrconfigedit::showTrees(const KeywordTree& classes, const KeywordTree& commands)
+{
+    m_classes = &classes;
+    m_ui->classes->showTree(classes);
+    m_ui->commands->showTree(commands);
+}
+
+void fmrconfigedit::showFitted()
+{
+    const QSize available = screen()->availableGeometry().size();
+    constexpr double share = 0.75;
+    resize(size().expandedTo((available * share)).boundedTo(available));
+    show();
+}
+
+void fmrconfigedit::rememberSize()
+{
+    RememberedWidth = m_ui->centralwidget->width();
+    RememberedHeight = m_ui->centralwidget->height();
+}
+
+void fmrconfigedit::startColouring()
+{
+    setColouringEnabled(true);
+}
+
+bool fmrconfigedit::UlozAddon()
+{
+    return m_commands.UlozAddon();
+}
+
+void fmrconfigedit::VlozText(const std::string& Jmeno)
+{
+    m_commands.VlozText(Jmeno);
+}
+
+void fmrconfigedit::Uprav2()
+{
+    if (m_context.state.Settings.KeywordColouringOff)
+        return;
+    if (m_changes > 0) {
+        m_colouringDue = true;
+        return;
+    }
+    Form2& notice = m_windows.waitWindow();
+    notice.announce(m_box.length());
+    m_live.hold();
+    colourBox(m_box, m_keywords, m_context.state.Settings);
+    m_live.release();
+    notice.hide();
+}
+
+void fmrconfigedit::beginDocumentChange()
+{
+    if (m_changes++ == 0) {
+        m_live.hold();
+        m_box.beginUndoStep();
+    }
+}
+
+void fmrconfigedit::endDocumentChange()
+{
+    if (--m_changes > 0)
+        return;
+    if (m_colouringDue)
+        Uprav2();
+    m_colouringDue = false;
+    m_box.endUndoStep();
+    m_live.release();
+}
+
+void fmrconfigedit::closeEvent(QCloseEvent* event)
+{
+    m_windows.saveSettings();
+    event->accept();
+    Q_EMIT closing();
+}
+
+bool fmrconfigedit::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_ui->centralwidget && event->type() == QEvent::Resize)
+        layOut();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+/// Proportional resize: every control keeps its share of the window.
+void fmrconfigedit::layOut()
+{
+    const QWidget& area = *m_ui->centralwidget;
+    const QWidgetList controls = area.findChildren<QWidget*>(Qt::FindDirectChildrenOnly);
+    if (!m_layout) {
+        std::vector<Geometry> designed;
+        for (const QWidget* control : controls) {
+            const QRectF place = control->geometry();
+            designed.push_back({place.left(), place.top(), place.width(), place.height()});
+        }
+        m_layout.emplace(designedWidth, designedHeight, std::move(designed));
+    }
+    if (isMinimized() || area.width() <= 0 || area.height() <= 0)
+        return;
+    const std::vector<Geometry> places = m_layout->at(area.width(), area.height());
+    for (qsizetype i = 0; i < controls.size(); ++i) {
+        const Geometry& place = places[static_cast<std::size_t>(i)];
+        controls[i]->setGeometry(QRectF(place.left, place.top, place.width, place.height).toRect());
+    }
+    rememberSize();
+}
+
+void fmrconfigedit::setCaption(const std::string& caption)
+{
+    setWindowTitle(toQt(caption));
+}
+
+void fmrconfigedit::setColouringEnabled(bool enabled)
+{
+    m_live.ColouringEnabled = enabled;
+}
+
+void fmrconfigedit::refresh()
+{
+    setColouringEnabled(false);
+    Uprav2();
+    setColouringEnabled(true);
+}
+
+void fmrconfigedit::readStringtable(const std::string& configPath)
+{
+    m_windows.readStringtable(configPath);
+}
+
+void fmrconfigedit::WriteStringtable(const std::string& path)
+{
+    m_windows.WriteStringtable(path);
+}
+
+void fmrconfigedit::stepFailed(const char* step, const Failure& failure)
+{
+    report(lcApp(), step, failure);
+}
+
+} // namespace kitwright
