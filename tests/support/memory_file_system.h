@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "platform/file_system.h"
+
+#include <map>
+#include <set>
+#include <string>
+
+namespace kitwright::testing {
+
+/// Files in memory, by path. Both separators are taken as '/', and two in a row as one. A path whose folder has no
+/// entry may still be written: folders come with their files.
+class MemoryFileSystem final : public FileSystem {
+public:
+    std::map<std::string, std::string> files;
+    std::set<std::string> unwritable; ///< Paths that refuse to be written.
+    int writes = 0;
+
+    bool fileExists(const std::string& path) const override { return files.contains(plain(path)); }
+
+    Outcome<std::string> readBytes(const std::string& path) const override
+    {
+        const auto found = files.find(plain(path));
+        return found == files.end() ? Outcome<std::string>::failed(path + ": no such file") : found->second;
+    }
+
+    Failure writeBytes(const std::string& path, std::string_view bytes) override
+    {
+        if (unwritable.contains(plain(path)))
+            return path + ": not writable";
+        files[plain(path)] = std::string(bytes);
+        ++writes;
+        return {};
+    }
+
+    Failure copyFile(const std::string& from, const std::string& to) override
+    {
+        const Outcome<std::string> bytes = readBytes(from);
+        return bytes ? writeBytes(to, *bytes) : Failure(bytes.reason());
+    }
+
+    Outcome<std::vector<std::string>> listFiles(const std::string& folder) const override
+    {
+        std::vector<std::string> names;
+        const std::string prefix = plain(folder + "/");
+        for (const auto& [path, bytes] : files) {
+            if (path.starts_with(prefix) && path.find('/', prefix.size()) == std::string::npos)
+                names.push_back(path.substr(prefix.size()));
+        }
+        return names;
+    }
+
+    Outcome<std::vector<std::string>> listFolders(const std::string& folder) const override
+    {
+        std::set<std::string> names;
+        const std::string prefix = plain(folder + "/");
+        for (const auto& [path, bytes] : files) {
+            const std::size_t end = path.find('/', prefix.size());
+            if (path.starts_with(prefix) && end != std::string::npos)
+                names.insert(path.substr(prefix.size(), end - prefix.size()));
+        }
+        return std::vector<std::string>(names.begin(), names.end());
+    }
+
+private:
+    static std::string plain(const std::string& path)
+    {
+        std::string result;
+        for (const char character : path) {
+            const char separator = character == '\\' ? '/' : character;
+            if (separator != '/' || result.empty() || result.back() != '/')
+                result += separator;
+        }
+        return result;
+    }
+};
+
+} // namespace kitwright::testing
