@@ -25,7 +25,7 @@ class Pass {
 public:
     Pass(std::string_view text, const KeywordList& keywords) : m_text(text), m_keywords(keywords)
     {
-        m_entries.resize(text.size(), StyleMap::keep);
+        m_entries.resize(text.size(), Plain);
     }
 
     void run()
@@ -40,12 +40,14 @@ public:
                 word(wordStart, i);
                 wordStart = ++i;
             } else if (i + 1 < end && m_text[i + 1] == '/') {
+                paint(wordStart, i, StyleMap::keep);
                 i = comment(i);
                 wordStart = i;
             } else {
                 ++i;
             }
         }
+        paint(wordStart, end, StyleMap::keep);
     }
 
     std::string takeEntries() { return std::move(m_entries); }
@@ -64,15 +66,13 @@ private:
             return;
         const std::string_view characters = m_text.substr(start, end - start);
         const int keyword = m_keywords.find(characters);
-        if (keyword < 0) {
-            paint(start, end, Plain);
+        if (keyword < 0)
             return;
-        }
         if (m_keywords.textAt(keyword) != characters)
             m_respellings.push_back({start, keyword});
         const auto keywordClass = static_cast<int>(m_keywords.classAt(keyword));
-        if (keywordClass >= ConfigCommand && keywordClass <= ClassName)
-            paint(start, end, static_cast<char>(keywordClass));
+        const bool hasStyle = keywordClass >= ConfigCommand && keywordClass <= ClassName;
+        paint(start, end, hasStyle ? static_cast<char>(keywordClass) : StyleMap::keep);
     }
 
     /// Paints the comment that starts at a position, its line break included; returns the place behind it.

@@ -30,8 +30,8 @@ struct FullPass {
     std::vector<Respelling> respellings; ///< In order.
 };
 
-/// Styles every word that a space or a line break ends, and every comment. What the pass does not touch keeps its
-/// style: blanks, what is glued to the front of a comment, and a word that ends the text.
+/// Styles every word that a space or a line break ends, and every comment. A word that is glued to the front of a
+/// comment or ends the text is not looked up and keeps its style. The blanks between words, which show none, are plain.
 FullPass colourText(std::string_view text, const KeywordList& keywords, const EditorSettings& settings);
 
 /// Full pass over a box: styles and respells the whole text. Caret and selection stay; the respellings are one undo
