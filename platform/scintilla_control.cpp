@@ -3,8 +3,12 @@
 
 #include "platform/scintilla_control.h"
 
+#include "platform/qt_text.h"
+#include "platform/text_files.h"
+
 #include <QFontDatabase>
 #include <QInputMethodEvent>
+#include <QKeyEvent>
 
 namespace kitwright {
 
@@ -39,13 +43,61 @@ ScintillaControl::ScintillaControl(QWidget* parent) : QsciScintilla(parent)
             [this](int position) { SendScintilla(SCI_STARTSTYLING, static_cast<unsigned long>(position)); });
 }
 
+std::string ScintillaControl::takeExpected(std::size_t size) const
+{
+    if (m_expected.size() < size)
+        m_expected.clear();
+    const std::string next = m_expected.substr(0, size);
+    m_expected.erase(0, size);
+    return next;
+}
+
 bool ScintillaControl::event(QEvent* event)
 {
-    if (event->type() == QEvent::InputMethod)
-        m_composing = !static_cast<const QInputMethodEvent*>(event)->preeditString().isEmpty();
     const bool handled = QsciScintilla::event(event);
     Q_EMIT eventHandled();
     return handled;
+}
+
+void ScintillaControl::keyPressEvent(QKeyEvent* event)
+{
+    const bool lineBreak = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const std::string typed = lineBreak ? std::string("\r\n") : fromQt(event->text());
+    const std::string kept = keepable(typed);
+    expectText(kept);
+    if (kept == typed) {
+        QsciScintilla::keyPressEvent(event);
+    } else if (!kept.empty()) {
+        QKeyEvent cut(event->type(), event->key(), event->modifiers(), toQt(kept), event->isAutoRepeat());
+        QsciScintilla::keyPressEvent(&cut);
+    }
+    expectText({});
+}
+
+void ScintillaControl::inputMethodEvent(QInputMethodEvent* event)
+{
+    m_composing = !event->preeditString().isEmpty();
+    const std::string kept = keepable(fromQt(event->commitString()));
+    expectText(kept);
+    QInputMethodEvent cut(event->preeditString(), event->attributes());
+    cut.setCommitString(toQt(kept), event->replacementStart(), event->replacementLength());
+    QsciScintilla::inputMethodEvent(&cut);
+    event->setAccepted(cut.isAccepted());
+    expectText({});
+}
+
+QByteArray ScintillaControl::fromMimeData(const QMimeData* source, bool& rectangular) const
+{
+    const QByteArray bytes = QsciScintilla::fromMimeData(source, rectangular);
+    const std::string kept = withCrLf(keepable(bytes.toStdString()));
+    expectText(kept);
+    return QByteArray::fromStdString(kept);
+}
+
+/// The text without what the code page lacks.
+std::string ScintillaControl::keepable(std::string text) const
+{
+    return m_codePage && !m_codePage->holds(text) ? m_codePage->keepable(text) : text;
 }
 
 bool ScintillaControl::viewportEvent(QEvent* event)

@@ -17,9 +17,12 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The changes that the box hears of. Styling is not among them, nor is anything that costs per character.
-constexpr unsigned long heardChanges
-    = Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT | Sci::SC_MOD_BEFOREDELETE | Sci::SC_MOD_INSERTCHECK;
+/// The changes that the box hears of: all of them are about to happen. Styling is not among them.
+constexpr unsigned long heardChanges = Sci::SC_MOD_INSERTCHECK | Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE;
+
+/// With these the control tells assistive technology what changed, counting characters from the start of the text:
+/// a cost that grows with the document, to be paid only where somebody listens.
+constexpr unsigned long spokenChanges = Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT;
 
 constexpr int undoOrRedo = Sci::SC_PERFORMED_UNDO | Sci::SC_PERFORMED_REDO;
 
@@ -28,24 +31,34 @@ unsigned long wide(Position position)
     return static_cast<unsigned long>(position);
 }
 
-/// True for text that can enter as it stands: ASCII with no line end that needs mending.
-bool isPlainAscii(std::string_view text)
-{
-    return std::all_of(text.begin(), text.end(), [](char character) {
-        return static_cast<unsigned char>(character) < 0x80 && character != '\r' && character != '\n';
-    });
-}
-
 } // namespace
 
 ScintillaTextBox::ScintillaTextBox(ScintillaControl& control, const CodePage& codePage)
     : m_control(control), m_codePage(codePage), m_styles(control)
 {
+    m_control.setCodePage(codePage);
     m_styles.define();
-    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, heardChanges);
+    hearChanges();
+    QAccessible::installActivationObserver(this);
     connect(&m_control, &Sci::SCN_MODIFIED, this,
-            [this](int position, int kind, const char* text, int length) { modified(position, kind, text, length); });
+            [this](int position, int kind, const char* /*text*/, int length) { modified(position, kind, length); });
     connect(&m_control, &ScintillaControl::eventHandled, this, &ScintillaTextBox::settle);
+}
+
+ScintillaTextBox::~ScintillaTextBox()
+{
+    QAccessible::removeActivationObserver(this);
+}
+
+void ScintillaTextBox::hearChanges()
+{
+    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK,
+                            QAccessible::isActive() ? heardChanges | spokenChanges : heardChanges);
+}
+
+void ScintillaTextBox::accessibilityActiveChanged(bool /*active*/)
+{
+    hearChanges();
 }
 
 Position ScintillaTextBox::length() const
@@ -79,7 +92,7 @@ void ScintillaTextBox::setText(std::string_view text)
     {
         const UndoStep step(*this);
         m_control.SendScintilla(Sci::SCI_TARGETWHOLEDOCUMENT);
-        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+        replaceTarget(text);
         select(0, 0);
     }
     settle();
@@ -95,10 +108,9 @@ void ScintillaTextBox::loadText(std::string_view text)
     m_control.SendScintilla(Sci::SCI_APPENDTEXT, text.size(), text.data());
     m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 1UL);
     m_control.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
-    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, heardChanges);
+    hearChanges();
     m_control.setCursorPosition(0, 0);
-    m_allPlain = true;
-    Q_EMIT m_control.linesChanged();
+    tellWidget();
 }
 
 Position ScintillaTextBox::caret() const
@@ -124,7 +136,7 @@ void ScintillaTextBox::replaceSelection(std::string_view text)
     {
         const UndoStep step(*this);
         m_control.SendScintilla(Sci::SCI_TARGETFROMSELECTION);
-        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+        replaceTarget(text);
         const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));
         select(end, 0);
     }
@@ -139,7 +151,7 @@ void ScintillaTextBox::replaceRange(Position start, Position length, std::string
     {
         const UndoStep step(*this);
         m_control.SendScintilla(Sci::SCI_SETTARGETRANGE, wide(part.start), static_cast<long>(part.start + part.length));
-        m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+        replaceTarget(text);
     }
     const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));
     const auto moved = [&](Position position) {
@@ -153,6 +165,19 @@ void ScintillaTextBox::replaceRange(Position start, Position length, std::string
     settle();
 }
 
+/// Puts a text in the place of the control's target, as far as the code page holds it.
+void ScintillaTextBox::replaceTarget(std::string_view text)
+{
+    std::string kept;
+    if (!m_codePage.holds(text) || !hasOnlyCrLf(text)) {
+        kept = withCrLf(m_codePage.keepable(text));
+        text = kept;
+    }
+    m_control.expectText(std::string(text));
+    m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
+    m_control.expectText({});
+}
+
 TextStyle ScintillaTextBox::styleAt(Position position) const
 {
     const long number = m_control.SendScintilla(Sci::SCI_GETSTYLEAT, wide(position));
@@ -164,14 +189,13 @@ void ScintillaTextBox::styleRange(Position start, Position length, const TextSty
     const Selection part = cut(start, length);
     m_control.SendScintilla(Sci::SCI_STARTSTYLING, wide(part.start));
     m_control.SendScintilla(Sci::SCI_SETSTYLING, wide(part.length), long{m_styles.numberOf(style)});
-    m_allPlain = false;
 }
 
 void ScintillaTextBox::styleAll(const StyleMap& styles)
 {
     std::array<char, 256> numberFor{};
-    for (std::size_t entry = 0; entry < styles.palette.size(); ++entry)
-        numberFor[entry] = static_cast<char>(m_styles.numberOf(styles.palette[entry]));
+    const std::vector<unsigned char> given = m_styles.numbersOf(styles.palette);
+    std::copy(given.begin(), given.end(), numberFor.begin());
 
     // Block by block, so that the bytes are still in the processor's cache when the control reads them.
     constexpr Position blockSize = 1 << 16;
@@ -182,11 +206,9 @@ void ScintillaTextBox::styleAll(const StyleMap& styles)
         numbers.resize(entries.size());
         std::transform(entries.begin(), entries.end(), numbers.begin(),
                        [&](char entry) { return numberFor[static_cast<unsigned char>(entry)]; });
-        if (!m_allPlain)
-            keepStyles(numbers, entries, start);
+        keepStyles(numbers, entries, start);
         m_control.SendScintilla(Sci::SCI_SETSTYLINGEX, numbers.size(), numbers.data());
     }
-    m_allPlain = false;
 }
 
 /// Puts the present numbers where the map asks to keep them.
@@ -220,41 +242,39 @@ void ScintillaTextBox::redo()
     settle();
 }
 
-void ScintillaTextBox::modified(int position, int kind, const char* text, int length)
+void ScintillaTextBox::modified(int position, int kind, int length)
 {
     const auto start = static_cast<Position>(position);
     const auto size = static_cast<std::size_t>(length);
     if (kind & Sci::SC_MOD_INSERTCHECK) {
-        checkInsertion(start, {text, size});
-    } else if ((kind & Sci::SC_MOD_BEFOREDELETE) && !(kind & undoOrRedo)) {
-        announce({start, size, {}});
-    } else if ((kind & (Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT)) && !m_answering) {
-        m_changed = true;
-        m_undoRedo = (kind & undoOrRedo) != 0;
-        // An edit that comes neither from an event nor through this box is answered as soon as events run again.
-        if (!m_settleQueued) {
-            m_settleQueued = true;
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    m_settleQueued = false;
-                    settle();
-                },
-                Qt::QueuedConnection);
-        }
-    }
-}
-
-void ScintillaTextBox::checkInsertion(Position position, std::string_view text)
-{
-    if (isPlainAscii(text) || text == "\r\n") {
-        announce({position, 0, text});
+        const std::string text = m_control.takeExpected(size);
+        announce({start, 0, text});
         return;
     }
-    const std::string keepable = withCrLf(m_codePage.keepable(text));
-    if (keepable != text)
-        m_control.SendScintilla(Sci::SCI_CHANGEINSERTION, keepable.size(), keepable.data());
-    announce({position, 0, keepable});
+    if (!(kind & heardChanges))
+        return;
+    if ((kind & Sci::SC_MOD_BEFOREDELETE) && !(kind & undoOrRedo))
+        announce({start, size, {}});
+    noteChange((kind & undoOrRedo) != 0);
+}
+
+void ScintillaTextBox::noteChange(bool undoRedo)
+{
+    if (m_answering)
+        return;
+    m_changed = true;
+    m_undoRedo = undoRedo;
+    if (m_settleQueued)
+        return;
+    // An edit that comes neither from an event nor through this box is answered as soon as events run again.
+    m_settleQueued = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_settleQueued = false;
+            settle();
+        },
+        Qt::QueuedConnection);
 }
 
 /// Opens an undo step around a coming edit when the observer will edit in answer to it.
@@ -276,11 +296,25 @@ void ScintillaTextBox::settle()
         const QScopedValueRollback answering(m_answering, true);
         m_observer->textChanged(m_undoRedo ? ChangeOrigin::UndoRedo : ChangeOrigin::Edit);
     }
+    if (m_changed)
+        tellWidget();
     m_changed = false;
     if (m_joined) {
         m_joined = false;
         m_control.SendScintilla(Sci::SCI_ENDUNDOACTION);
     }
+}
+
+/// Sends the widget's own signals, which it leaves out for changes that it does not hear of.
+void ScintillaTextBox::tellWidget()
+{
+    if (QAccessible::isActive() && m_changed)
+        return;
+    Q_EMIT m_control.textChanged();
+    const int lines = m_control.lines();
+    if (lines != m_lines)
+        Q_EMIT m_control.linesChanged();
+    m_lines = lines;
 }
 
 Selection ScintillaTextBox::cut(Position start, Position length) const

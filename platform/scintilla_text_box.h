@@ -7,6 +7,7 @@
 #include "platform/rich_text_box.h"
 #include "platform/style_numbers.h"
 
+#include <QAccessible>
 #include <QObject>
 
 namespace kitwright {
@@ -15,12 +16,13 @@ class ScintillaControl;
 
 /// The rich-text box on the real control. Whatever enters the text (typed, pasted, dropped, inserted by the program)
 /// is cut to the code page and gets CR LF line ends; positions are bytes of the UTF-8 text.
-class ScintillaTextBox final : public QObject, public RichTextBox {
+class ScintillaTextBox final : public QObject, public RichTextBox, private QAccessible::ActivationObserver {
     Q_OBJECT
 
 public:
     /// The control must outlive the box.
     ScintillaTextBox(ScintillaControl& control, const CodePage& codePage);
+    ~ScintillaTextBox() override;
 
     Position length() const override;
     std::string_view text() const override;
@@ -44,8 +46,12 @@ public:
     void redo();
 
 private:
-    void modified(int position, int kind, const char* text, int length);
-    void checkInsertion(Position position, std::string_view text);
+    void replaceTarget(std::string_view text);
+    void hearChanges();
+    void accessibilityActiveChanged(bool active) override;
+    void modified(int position, int kind, int length);
+    void noteChange(bool undoRedo);
+    void tellWidget();
     void announce(const PendingEdit& edit);
 
     /// Lets the observer answer the changes since the last time.
@@ -63,7 +69,7 @@ private:
     bool m_answering = false;   ///< The observer is at work; its edits are no changes to answer.
     bool m_joined = false;      ///< An undo step is open that the answer shall belong to.
     bool m_settleQueued = false;
-    bool m_allPlain = true;     ///< No character has been styled since the text was loaded.
+    int m_lines = 1;            ///< Lines that the widget last told of.
 };
 
 } // namespace kitwright

@@ -6,7 +6,6 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <algorithm>
-#include <array>
 
 namespace kitwright {
 
@@ -37,7 +36,18 @@ void StyleNumbers::define()
     }
 }
 
-unsigned char StyleNumbers::numberOf(const TextStyle& style)
+std::vector<unsigned char> StyleNumbers::numbersOf(std::span<const TextStyle> styles)
+{
+    Held held;
+    std::vector<unsigned char> numbers;
+    for (const TextStyle& style : styles) {
+        numbers.push_back(give(style, held));
+        held.set(numbers.back());
+    }
+    return numbers;
+}
+
+unsigned char StyleNumbers::give(const TextStyle& style, const Held& held)
 {
     const auto known = std::find(m_styles.begin(), m_styles.end(), style);
     if (known != m_styles.end())
@@ -52,7 +62,7 @@ unsigned char StyleNumbers::numberOf(const TextStyle& style)
     };
     std::size_t number = firstFree();
     if (number == 0) {
-        freeUnused();
+        freeUnused(held);
         number = firstFree();
     }
     if (number != 0) {
@@ -75,14 +85,14 @@ void StyleNumbers::defineNumber(std::size_t number)
     m_control.SendScintilla(Sci::SCI_STYLESETITALIC, number, long{style.italic});
 }
 
-void StyleNumbers::freeUnused()
+void StyleNumbers::freeUnused(const Held& held)
 {
-    std::array<bool, numberCount> used{};
-    used[0] = true;
+    Held used = held;
+    used.set(0);
     const long length = m_control.SendScintilla(Sci::SCI_GETLENGTH);
     for (long position = 0; position < length; ++position) {
         const long number = m_control.SendScintilla(Sci::SCI_GETSTYLEAT, static_cast<unsigned long>(position));
-        used[static_cast<std::size_t>(number) & 0xFF] = true;
+        used.set(static_cast<std::size_t>(number) & 0xFF);
     }
     for (std::size_t number = 0; number < numberCount; ++number) {
         if (!used[number])

@@ -46,9 +46,6 @@ std::vector<std::string_view> dataLines(std::string_view text)
     return lines;
 }
 
-namespace {
-
-/// True when every CR is followed by LF and every LF preceded by CR.
 bool hasOnlyCrLf(std::string_view text)
 {
     for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos; i = text.find_first_of("\r\n", i + 2)) {
@@ -57,8 +54,6 @@ bool hasOnlyCrLf(std::string_view text)
     }
     return true;
 }
-
-} // namespace
 
 std::string withCrLf(std::string text)
 {

@@ -37,6 +37,9 @@ private:
 /// an end counts; an empty text has no line. The views point into `text`.
 std::vector<std::string_view> dataLines(std::string_view text);
 
+/// True when every CR is followed by LF and every LF preceded by CR.
+bool hasOnlyCrLf(std::string_view text);
+
 /// The text with every line end, bare LF and bare CR included, as CR LF.
 std::string withCrLf(std::string text);
 
