@@ -1,0 +1,280 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "stringtable/stringtable_window.h"
+
+#include "platform/report.h"
+#include "services/list_file.h"
+#include "services/paths.h"
+#include "ui_stringtable_window.h"
+
+#include <QSignalBlocker>
+#include <QTextDocument>
+
+namespace kitwright {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcStringtable, "kitwright.stringtable")
+
+/// The text of a box as it was typed; unlike its plain text, with no-break spaces.
+QString typedText(const QPlainTextEdit& box)
+{
+    QString text = box.document()->toRawText();
+    text.replace(QChar::ParagraphSeparator, u'\n');
+    text.replace(QChar::LineSeparator, u'\n');
+    return text;
+}
+
+QString keepable(const CodePage& codePage, const QString& text)
+{
+    return toQt(codePage.keepable(fromQt(text)));
+}
+
+/// What the file cannot hold leaves the box at once, so that the author sees what will be saved.
+void keepSavable(QLineEdit& box, const CodePage& codePage)
+{
+    const QString text = box.text();
+    if (codePage.holds(fromQt(text)))
+        return;
+    const auto caret = keepable(codePage, text.left(box.cursorPosition())).size();
+    const QSignalBlocker quiet(box);
+    box.setText(keepable(codePage, text));
+    box.setCursorPosition(static_cast<int>(caret));
+}
+
+void keepSavable(QPlainTextEdit& box, const CodePage& codePage)
+{
+    const QString text = typedText(box);
+    if (codePage.holds(fromQt(text)))
+        return;
+    const auto caret = keepable(codePage, text.left(box.textCursor().position())).size();
+    const QSignalBlocker quiet(box);
+    QTextCursor cursor = box.textCursor();
+    // One undo step with what brought the characters in, or undoing would bring them back.
+    cursor.joinPreviousEditBlock();
+    cursor.select(QTextCursor::Document);
+    cursor.insertText(keepable(codePage, text));
+    cursor.endEditBlock();
+    cursor.setPosition(static_cast<int>(caret));
+    box.setTextCursor(cursor);
+}
+
+/// A row of a list as a position in the table; without a row, one that the table does not have.
+std::size_t position(int row)
+{
+    return static_cast<std::size_t>(row);
+}
+
+} // namespace
+
+Form4::Form4(Context& context, QWidget* parent)
+    : QDialog(parent),
+      m_context(context),
+      m_ui(std::make_unique<Ui::Form4>()),
+      m_store(context.files, context.texts, m_table)
+{
+    m_ui->setupUi(this);
+    enableEditing(false);
+    connectControls();
+    loadLanguages();
+}
+
+Form4::~Form4() = default;
+
+void Form4::connectControls()
+{
+    connect(m_ui->Command1, &QPushButton::clicked, this, &Form4::addKey);
+    connect(m_ui->Command2, &QPushButton::clicked, this, &Form4::removeKey);
+    connect(m_ui->Command3, &QPushButton::clicked, this, &Form4::removeAllKeys);
+    connect(m_ui->Command4, &QPushButton::clicked, this, &QDialog::hide);
+    connect(m_ui->Command5, &QPushButton::clicked, this, [this] { m_context.host.UlozAddon(); });
+    connect(m_ui->List1, &CheckList::entryClicked, this, &Form4::showKey);
+    connect(m_ui->List2, &QListWidget::currentRowChanged, this, &Form4::showText);
+    // A click on the current language shows the text of a key that became current since.
+    connect(m_ui->List2, &QListWidget::itemClicked, this, &Form4::showText);
+    connect(m_ui->Text1, &QLineEdit::textChanged, this, &Form4::storeKey);
+    connect(m_ui->Text2, &QPlainTextEdit::textChanged, this, &Form4::storeText);
+}
+
+void Form4::loadLanguages()
+{
+    const std::string path = m_context.inProgramFolder("\\Bfdata\\kitwright\\languages.dat");
+    if (!m_context.files.fileExists(path))
+        return;
+    const Outcome<std::string> text = m_context.texts.read(path);
+    if (!text) {
+        report(lcStringtable(), "reading the languages", text.reason());
+        return;
+    }
+    for (const ListEntry& entry : listEntries(*text))
+        m_table.addLanguage(entry.text);
+    showLanguages();
+}
+
+void Form4::addKey()
+{
+    m_table.add();
+    showNewKeys();
+    enableEditing(true);
+    m_ui->Command5->setEnabled(true);
+    m_ui->List1->choose(m_ui->List1->count() - 1);
+}
+
+void Form4::removeKey()
+{
+    const int row = m_ui->List1->currentRow();
+    if (row < 0)
+        return;
+    m_ui->List1->removeEntry(row);
+    m_table.remove(position(row));
+    if (m_table.StringCount() == 0)
+        removeAllKeys();
+}
+
+void Form4::removeAllKeys()
+{
+    m_ui->List1->removeAll();
+    m_table.removeAll();
+    enableEditing(false);
+    m_ui->Command5->setEnabled(false);
+    m_ui->Command1->setEnabled(true);
+}
+
+void Form4::showKey(int row)
+{
+    const QString key = toQt(m_table.entry(position(row)).Key);
+    // Setting the same text would move the caret of someone who is typing.
+    if (m_ui->Text1->text() == key)
+        return;
+    const QSignalBlocker quiet(m_ui->Text1);
+    m_ui->Text1->setText(key);
+}
+
+void Form4::storeKey()
+{
+    keepSavable(*m_ui->Text1, m_context.texts.codePage());
+    const int row = m_ui->List1->currentRow();
+    if (row < 0)
+        return;
+    m_table.setKey(position(row), fromQt(m_ui->Text1->text()));
+    showTip(row);
+}
+
+void Form4::showText()
+{
+    if (m_ui->List1->currentRow() < 0 || m_ui->List2->currentRow() < 0)
+        return;
+    const QSignalBlocker quiet(m_ui->Text2);
+    m_ui->Text2->setPlainText(currentText());
+}
+
+void Form4::storeText()
+{
+    keepSavable(*m_ui->Text2, m_context.texts.codePage());
+    m_table.setText(position(m_ui->List1->currentRow()), position(m_ui->List2->currentRow()),
+                    withCrLf(fromQt(typedText(*m_ui->Text2))));
+}
+
+void Form4::readTable(const std::string& configPath)
+{
+    takeTicks();
+    QStringList labels;
+    for (int row = 0; row < m_ui->List1->count(); ++row) {
+        if (!m_table.belongsToFile(position(row)))
+            labels += m_ui->List1->item(row)->text();
+    }
+    report(lcStringtable(), "reading the stringtable", m_store.open(FolderOf(configPath)));
+
+    m_ui->List1->removeAll();
+    showNewKeys();
+    {
+        // A new label would look like a change of the entry's tick.
+        const QSignalBlocker quiet(m_ui->List1);
+        for (int row = 0; row < labels.size(); ++row)
+            m_ui->List1->item(row)->setText(labels[row]);
+    }
+    showLanguages();
+    // No key is chosen, so the boxes stand for none: nothing typed now may land in a key of the new document.
+    const QSignalBlocker quiet1(m_ui->Text1);
+    const QSignalBlocker quiet2(m_ui->Text2);
+    m_ui->Text1->clear();
+    m_ui->Text2->clear();
+    m_ui->List2->setCurrentRow(-1);
+    enableEditing(m_table.StringCount() > 0);
+    m_ui->Command5->setEnabled(true);
+}
+
+void Form4::WriteStringtable(const std::string& path)
+{
+    takeTicks();
+    const QString shown = currentText();
+    const bool wasEmpty = m_ui->List1->count() == 0;
+    report(lcStringtable(), "writing the stringtable", m_store.save(path));
+    // A file that stood there may have brought keys, languages and texts.
+    showNewKeys();
+    showLanguages();
+    if (wasEmpty && m_table.StringCount() > 0) {
+        enableEditing(true);
+        m_ui->Command5->setEnabled(true);
+    }
+    if (shown != currentText())
+        showText();
+}
+
+QString Form4::currentText() const
+{
+    const std::size_t key = position(m_ui->List1->currentRow());
+    const std::size_t language = position(m_ui->List2->currentRow());
+    if (key >= m_table.StringCount() || language >= m_table.languages().size())
+        return {};
+    return toQt(m_table.entry(key).Texts[language]);
+}
+
+void Form4::takeTicks()
+{
+    for (int row = 0; row < m_ui->List1->count(); ++row)
+        m_table.setTicked(position(row), m_ui->List1->isTicked(row));
+}
+
+/// Lists the keys that the list does not have yet.
+void Form4::showNewKeys()
+{
+    m_ui->List1->setUpdatesEnabled(false);
+    for (int row = m_ui->List1->count(); row < static_cast<int>(m_table.StringCount()); ++row) {
+        const std::size_t key = position(row);
+        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), toQt(m_table.entry(key).Key));
+        m_ui->List1->setTicked(row, m_table.isTicked(key));
+    }
+    m_ui->List1->setUpdatesEnabled(true);
+}
+
+void Form4::showLanguages()
+{
+    const std::vector<std::string>& languages = m_table.languages();
+    const QSignalBlocker quiet(m_ui->List2);
+    while (m_ui->List2->count() > static_cast<int>(languages.size()))
+        delete m_ui->List2->takeItem(m_ui->List2->count() - 1);
+    for (int row = 0; row < static_cast<int>(languages.size()); ++row) {
+        if (row == m_ui->List2->count())
+            m_ui->List2->addItem(QString());
+        m_ui->List2->item(row)->setText(toQt(languages[position(row)]));
+    }
+}
+
+void Form4::showTip(int row)
+{
+    // A new tool tip would look like a change of the entry's tick.
+    const QSignalBlocker quiet(m_ui->List1);
+    m_ui->List1->item(row)->setToolTip(toQt(m_table.entry(position(row)).Key));
+}
+
+void Form4::enableEditing(bool enabled)
+{
+    for (QWidget* control : {static_cast<QWidget*>(m_ui->List1), static_cast<QWidget*>(m_ui->List2),
+                             static_cast<QWidget*>(m_ui->Text2), static_cast<QWidget*>(m_ui->Command2),
+                             static_cast<QWidget*>(m_ui->Command3)})
+        control->setEnabled(enabled);
+}
+
+} // namespace kitwright
