@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "wizards/addon_copy.h"
+
+#include "services/letter_case.h"
+#include "services/paths.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kitwright {
+
+namespace {
+
+Failure copyOne(FileSystem& files, std::string_view CurrentFile, const FileCopy& copy)
+{
+    if (CurrentFile.empty())
+        return copy.from + ": the add-on has no folder yet";
+    if (!isPlainFileName(copy.fileName))
+        return copy.from + ": no file name to copy it to";
+    if (equalIgnoringCase(copy.fileName, FileNameOf(CurrentFile))
+        || equalIgnoringCase(copy.fileName, "Stringtable.csv"))
+        return copy.from + ": would replace the add-on's own " + copy.fileName;
+    return files.copyFile(copy.from, FolderOf(CurrentFile) + copy.fileName);
+}
+
+} // namespace
+
+std::vector<FileCopy> CopyPlan::copies() const
+{
+    std::vector<std::pair<std::size_t, std::string>> ordered;
+    ordered.reserve(m_places.size());
+    for (const auto& [from, place] : m_places)
+        ordered.emplace_back(place, from);
+    std::sort(ordered.begin(), ordered.end());
+
+    std::vector<FileCopy> result;
+    result.reserve(ordered.size());
+    for (const auto& [place, from] : ordered)
+        result.push_back({from, FileNameOf(from)});
+    return result;
+}
+
+std::vector<std::string> copyIntoAddon(FileSystem& files, std::string_view CurrentFile,
+                                       const std::vector<FileCopy>& copies)
+{
+    std::vector<std::string> failures;
+    for (const FileCopy& copy : copies) {
+        if (Failure failure = copyOne(files, CurrentFile, copy))
+            failures.push_back(*failure);
+    }
+    return failures;
+}
+
+} // namespace kitwright
