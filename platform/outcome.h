@@ -16,12 +16,12 @@ using Failure = std::optional<std::string>;
 template <class Value>
 class Outcome {
 public:
-    Outcome(Value value) : m_value(std::move(value)) {}
+    Outcome(Value value) : m_value(std::move(value)) {} // NOLINT(google-explicit-constructor): a value is an outcome
 
-    static Outcome failed(std::string reason)
+    static Outcome failed(const std::string& reason)
     {
         Outcome outcome;
-        outcome.m_reason = std::move(reason);
+        outcome.m_reason = reason;
         return outcome;
     }
 

@@ -104,7 +104,9 @@ void ScintillaTextBox::loadText(std::string_view text)
     m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, 0UL);
     m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 0UL);
     m_control.SendScintilla(Sci::SCI_CLEARALL);
-    m_control.SendScintilla(Sci::SCI_ALLOCATE, text.size());
+    // With no room to spare the control would make its room anew, and twice as large, when the text comes.
+    constexpr std::size_t roomToSpare = 1 << 16;
+    m_control.SendScintilla(Sci::SCI_ALLOCATE, text.size() + roomToSpare);
     m_control.SendScintilla(Sci::SCI_APPENDTEXT, text.size(), text.data());
     m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 1UL);
     m_control.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
