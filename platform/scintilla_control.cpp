@@ -7,6 +7,7 @@
 #include "platform/text_files.h"
 
 #include <QFontDatabase>
+#include <QFontInfo>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 
@@ -17,6 +18,8 @@ namespace {
 QFont editorFont()
 {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    // The family that a name like "monospace" stands for: the alias itself has no bold or italic member.
+    font.setFamilies({QFontInfo(font).family()});
     constexpr int smallest = 10;
     if (font.pointSize() < smallest)
         font.setPointSize(smallest);

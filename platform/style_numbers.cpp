@@ -6,6 +6,7 @@
 #include <Qsci/qsciscintilla.h>
 
 #include <algorithm>
+#include <cmath>
 
 namespace kitwright {
 
@@ -80,6 +81,11 @@ TextStyle StyleNumbers::styleOf(unsigned char number) const
 void StyleNumbers::defineNumber(std::size_t number)
 {
     const TextStyle& style = *m_styles[number];
+    const QFont font = m_control.font();
+    const QByteArray family = font.family().toUtf8();
+    m_control.SendScintilla(Sci::SCI_STYLESETFONT, number, family.constData());
+    m_control.SendScintilla(Sci::SCI_STYLESETSIZEFRACTIONAL, number,
+                            std::lround(font.pointSizeF() * int{Sci::SC_FONT_SIZE_MULTIPLIER}));
     m_control.SendScintilla(Sci::SCI_STYLESETFORE, number, static_cast<long>(style.colour & 0xFFFFFF));
     m_control.SendScintilla(Sci::SCI_STYLESETBOLD, number, long{style.bold});
     m_control.SendScintilla(Sci::SCI_STYLESETITALIC, number, long{style.italic});
