@@ -42,11 +42,15 @@ void BrowserTree::showTree(const KeywordTree& tree)
     m_tree = &tree;
     QList<QTreeWidgetItem*> items;
     QList<QTreeWidgetItem*> topLevel;
+    QFont headingFont = font();
+    headingFont.setBold(true);
     items.reserve(static_cast<qsizetype>(tree.nodes().size()));
     for (const TreeNode& node : tree.nodes()) {
         auto* item = node.parent == TreeNode::noParent ? new QTreeWidgetItem : new QTreeWidgetItem(items[node.parent]);
         item->setText(0, toQt(node.text));
         item->setData(0, nodeRole, static_cast<int>(items.size()));
+        if (node.isHeading())
+            item->setFont(0, headingFont);
         items << item;
         if (node.parent == TreeNode::noParent)
             topLevel << item;

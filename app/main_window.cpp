@@ -6,8 +6,10 @@
 #include "app/browser_clicks.h"
 #include "app/colouring.h"
 #include "app/log.h"
+#include "app/menu_keys.h"
 #include "app/wait_window.h"
 #include "platform/brace_matcher.h"
+#include "platform/find_bar.h"
 #include "platform/line_number_margin.h"
 #include "platform/qt_text.h"
 #include "platform/report.h"
@@ -42,6 +44,8 @@ fmrconfigedit::fmrconfigedit(const Desktop& desktop, SharedState& state, const K
 {
     new BraceMatcher(*m_ui->configedit);
     new LineNumberMargin(*m_ui->configedit);
+    new FindBar(*m_ui->configedit);
+    new MenuKeys(*m_ui->menubar);
     for (QMenu* menu : findChildren<QMenu*>())
         menu->menuAction()->setObjectName(menu->objectName());
     m_ui->centralwidget->installEventFilter(this);
@@ -58,6 +62,8 @@ void fmrconfigedit::connectDocumentCommands()
     const auto command = [this](QAbstractButton* button, QAction* action, auto handler) {
         connect(button, &QAbstractButton::clicked, this, handler);
         connect(action, &QAction::triggered, this, handler);
+        // The button's tool tip is the caption of its menu entry, in any language.
+        connect(action, &QAction::changed, button, [button, action] { button->setToolTip(action->text()); });
     };
     command(m_ui->cmdnew, m_ui->mnufilenew, [this] { m_commands.newDocument(); });
     command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });
