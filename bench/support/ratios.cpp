@@ -5,8 +5,16 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <ctime>
 
 namespace kitwright::bench {
+
+double processorTime()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + 1e-9 * static_cast<double>(now.tv_nsec);
+}
 
 void Times::ReportRuns(const std::vector<Run>& runs)
 {

@@ -12,6 +12,9 @@
 
 namespace kitwright::bench {
 
+/// Processor time of this thread, in seconds.
+double processorTime();
+
 /// A promise of speed: how the time of one case relates to that of another in the same run.
 struct Ratio {
     std::string what;
