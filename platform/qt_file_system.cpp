@@ -12,6 +12,7 @@
 #include <QSaveFile>
 
 #ifdef Q_OS_UNIX
+#include <cerrno>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -60,6 +61,20 @@ void takeOwnership([[maybe_unused]] const QSaveFile& file, [[maybe_unused]] cons
 #endif
 }
 
+/// Brings what was written to the disk; an error text, empty on success. The library's own commit overlooks a disk
+/// that has no room for the last bytes, and would put a cut file in the old one's place.
+QString reachDisk(QSaveFile& file)
+{
+    if (!file.flush())
+        return file.errorString();
+#ifdef Q_OS_UNIX
+    // Some file systems cannot sync, which they say with EINVAL.
+    if (::fsync(file.handle()) != 0 && errno != EINVAL)
+        return qt_error_string(errno);
+#endif
+    return {};
+}
+
 /// Writes a file whole or not at all. `content` writes it to the device it is given and returns an error text, empty
 /// on success.
 template <class Content>
@@ -74,7 +89,10 @@ Failure replaceFile(const QString& path, const Content& content)
     if (!file.open(QIODevice::WriteOnly))
         return reason(path, file.errorString());
     takeOwnership(file, target);
-    if (const QString error = content(file); !error.isEmpty()) {
+    QString error = content(file);
+    if (error.isEmpty())
+        error = reachDisk(file);
+    if (!error.isEmpty()) {
         file.cancelWriting();
         return reason(path, error);
     }
