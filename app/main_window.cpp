@@ -117,7 +117,9 @@ void fmrconfigedit::showTrees(const KeywordTree& classes, const KeywordTree& com
 
 void fmrconfigedit::showFitted()
 {
-    const QSize available = screen()->availableGeometry().size();
+    // The window manager's frame wants room, too, and is not known before the window is shown.
+    constexpr QSize frame(8, 32);
+    const QSize available = screen()->availableGeometry().size() - frame;
     constexpr double share = 0.75;
     resize(size().expandedTo((available * share)).boundedTo(available));
     show();
