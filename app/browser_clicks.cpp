@@ -33,10 +33,13 @@ void commandClicked(AddonHost& host, const TreeNode& node)
 
 void classClicked(AddonHost& host, const TreeNode& node, bool declareFromRoot)
 {
-    if (declareFromRoot)
+    if (declareFromRoot) {
+        // The colouring after it may respell other words; one undo takes back all of it.
+        const DocumentChange change(host);
         DeclareBaseClasses(host, node.text);
-    else
+    } else {
         commandClicked(host, node);
+    }
     host.configedit().select(host.configedit().length(), 0);
 }
 

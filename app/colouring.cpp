@@ -123,15 +123,20 @@ FullPass colourText(std::string_view text, const KeywordList& keywords, const Ed
     return result;
 }
 
+void respell(RichTextBox& box, Position start, std::string_view spelling)
+{
+    const TextStyle style = box.styleAt(start);
+    box.replaceRange(start, spelling.size(), spelling);
+    box.styleRange(start, spelling.size(), style);
+}
+
 void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings)
 {
     const FullPass pass = colourText(box.text(), keywords, settings);
     if (!pass.respellings.empty()) {
         const UndoStep step(box);
-        for (const Respelling& respelling : pass.respellings) {
-            const std::string_view spelling = keywords.textAt(respelling.keyword);
-            box.replaceRange(respelling.start, spelling.size(), spelling);
-        }
+        for (const Respelling& respelling : pass.respellings)
+            respell(box, respelling.start, keywords.textAt(respelling.keyword));
     }
     box.styleAll(pass.styles);
 }

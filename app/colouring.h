@@ -34,6 +34,9 @@ struct FullPass {
 /// comment or ends the text is not looked up and keeps its style. The blanks between words, which show none, are plain.
 FullPass colourText(std::string_view text, const KeywordList& keywords, const EditorSettings& settings);
 
+/// Writes the word at a position in an equally long spelling; it keeps the style that it has.
+void respell(RichTextBox& box, Position start, std::string_view spelling);
+
 /// Full pass over a box: styles and respells the whole text. Caret and selection stay; the respellings are one undo
 /// step, styles are none.
 void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings);

@@ -52,7 +52,7 @@ void LiveColouring::textChanged(ChangeOrigin origin)
         // What undo brings back keeps its spelling: an edit here would cut off the redo history.
         const std::string_view spelling = m_keywords.textAt(keyword);
         if (origin == ChangeOrigin::Edit && word != spelling)
-            m_box.replaceRange(step.start, step.length, spelling);
+            respell(m_box, step.start, spelling);
         if (const auto style = keywordStyle(m_keywords.classAt(keyword), m_settings))
             m_box.styleRange(step.start, step.length, *style);
     }

@@ -185,7 +185,6 @@ void fmrconfigedit::closeEvent(QCloseEvent* event)
 {
     m_windows.saveSettings();
     event->accept();
-    Q_EMIT closing();
 }
 
 bool fmrconfigedit::eventFilter(QObject* watched, QEvent* event)

@@ -56,10 +56,6 @@ public:
     void beginDocumentChange() override;
     void endDocumentChange() override;
 
-Q_SIGNALS:
-    /// The window is closing for good.
-    void closing();
-
 protected:
     void closeEvent(QCloseEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
