@@ -99,7 +99,7 @@ void StringTextBox::undo()
     m_styles.assign(m_text.size(), TextStyle{});
     m_selection = {std::min(m_selection.start, m_text.size()), 0};
     if (m_observer)
-        m_observer->textChanged(ChangeOrigin::UndoRedo);
+        tell(ChangeOrigin::UndoRedo);
 }
 
 void StringTextBox::type(std::string_view text)
@@ -124,7 +124,10 @@ Selection StringTextBox::cut(Position start, Position length) const
 
 void StringTextBox::edit(Position start, Position length, std::string_view text)
 {
-    const bool joined = m_observer && m_observer->willEditAfter({start, length, text});
+    if (length == 0 && text.empty())
+        return;
+    const bool heard = m_observer && !m_answering;
+    const bool joined = heard && m_observer->willEditAfter({start, length, text});
     if (joined)
         beginUndoStep();
     if (m_openSteps == 0 || !m_stepRecorded) {
@@ -134,10 +137,18 @@ void StringTextBox::edit(Position start, Position length, std::string_view text)
     m_text.replace(start, length, text);
     m_styles.erase(m_styles.begin() + offset(start), m_styles.begin() + offset(start + length));
     m_styles.insert(m_styles.begin() + offset(start), text.size(), TextStyle{});
-    if (m_observer)
-        m_observer->textChanged(ChangeOrigin::Edit);
+    if (heard)
+        tell(ChangeOrigin::Edit);
     if (joined)
         endUndoStep();
+}
+
+/// Its answer's own edits are not heard of.
+void StringTextBox::tell(ChangeOrigin origin)
+{
+    m_answering = true;
+    m_observer->textChanged(origin);
+    m_answering = false;
 }
 
 } // namespace kitwright::testing

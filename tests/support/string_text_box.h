@@ -43,6 +43,7 @@ public:
 private:
     Selection cut(Position start, Position length) const;
     void edit(Position start, Position length, std::string_view text);
+    void tell(ChangeOrigin origin);
 
     std::string m_text;
     std::vector<TextStyle> m_styles;
@@ -50,6 +51,7 @@ private:
     std::vector<std::string> m_history; ///< The texts before each step, oldest first.
     int m_openSteps = 0;
     bool m_stepRecorded = false;
+    bool m_answering = false;
     TextObserver* m_observer = nullptr;
 };
 

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/text_files.h"
+
+#include "platform/windows_1250.h"
+#include "support/memory_file_system.h"
+
+#include <gtest/gtest.h>
+
+namespace kitwright {
+
+TEST(DataLines, EndAtCrOrCrLfButNotAtBareLf)
+{
+    const std::pair<std::string, std::vector<std::string_view>> cases[] = {
+        {"", {}},       {"a\r\nb\r\n", {"a", "b"}},   {"a\rb", {"a", "b"}},       {"a\r", {"a"}},
+        {"\n", {"\n"}}, {"a\nb\r\nc", {"a\nb", "c"}}, {"\r\r\n\r", {"", "", ""}}, {"a", {"a"}},
+        {"\r\n", {""}}, {"a\r\n\nb", {"a", "\nb"}}};
+    for (const auto& [text, lines] : cases)
+        EXPECT_EQ(dataLines(text), lines) << ::testing::PrintToString(text);
+}
+
+TEST(WithCrLf, MendsEveryLineEndAndNothingElse)
+{
+    const std::pair<std::string, std::string> cases[] = {{"", ""},
+                                                         {"a\r\nb\r\n", "a\r\nb\r\n"},
+                                                         {"a\nb\rc", "a\r\nb\r\nc"},
+                                                         {"\r", "\r\n"},
+                                                         {"a\r\n\r", "a\r\n\r\n"},
+                                                         {"\n\n\r\r", "\r\n\r\n\r\n\r\n"},
+                                                         {"\n\r\n\r", "\r\n\r\n\r\n"}};
+    for (const auto& [text, expected] : cases)
+        EXPECT_EQ(withCrLf(text), expected) << ::testing::PrintToString(text);
+}
+
+TEST(TextFiles, HoldOneByteACharacterUnlessTheyAreMarked)
+{
+    testing::MemoryFileSystem disk;
+    TextFiles texts(disk, windows1250());
+    EXPECT_FALSE(texts.write("/f", "Příliš\r\n\u00A0😀"));
+    EXPECT_EQ(disk.files["/f"], "P\xF8\xEDli\x9A\r\n\xA0");
+    EXPECT_EQ(*texts.read("/f"), "Příliš\r\n\u00A0");
+    EXPECT_EQ(*texts.readMarked("/f"), "Příliš\r\n\u00A0");
+    disk.files["/f"] = "\xEF\xBB\xBFžluť 😀";
+    EXPECT_EQ(*texts.readMarked("/f"), "žluť ");
+    EXPECT_EQ(windows1250().encode(*texts.read("/f")), disk.files["/f"]);
+    EXPECT_FALSE(texts.readMarked("/missing"));
+}
+
+} // namespace kitwright

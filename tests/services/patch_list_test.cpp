@@ -1,0 +1,87 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "services/patch_list.h"
+
+#include "support/any_text_box.h"
+
+#include <gtest/gtest.h>
+
+namespace kitwright {
+namespace {
+
+using testing::AnyTextBox;
+
+struct PatchList : ::testing::TestWithParam<const char*> {
+    std::string added(std::string_view text, std::string_view item)
+    {
+        AnyTextBox box(GetParam(), text);
+        AddToPatchList(*box, "Units[]", item);
+        return std::string(box->text());
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Boxes, PatchList, ::testing::ValuesIn(AnyTextBox::kinds));
+
+std::string config(const std::string& lines)
+{
+    return "class CfgPatches\r\n{\r\n   class A\r\n   {\r\n" + lines
+         + "\r\n   };\r\n};\r\nclass CfgWeapons {};\r\n";
+}
+
+TEST_P(PatchList, TakesTheItemInWhateverHandTheListIsWritten)
+{
+    const std::pair<std::string, std::string> cases[] = {
+        {"units[]={};", "units[]={New};"},
+        {"units[] = { };", "units[] = {New };"},
+        {"\tUNITS[]={\"a\", \"b\"};", "\tUNITS[]={New,\"a\", \"b\"};"},
+        {"units[]={A};", "units[]={NewA};"}, // One character counts as an empty list.
+        {"weapons[]={}; units[]={ A }; x[]={};", "weapons[]={}; units[]={New, A }; x[]={};"},
+        {"units[] =\r\n  {\r\n  };", "units[] =\r\n  {New\r\n  };"},
+        {"units[] =\r\n // mine\r\n {\r\n  Old\r\n };", "units[] =\r\n // mine\r\n {New,\r\n  Old\r\n };"},
+        {"units[] = {\r\n     Old\r\n   };", "units[] = {New,\r\n     Old\r\n   };"},
+        {"units[];\r\nx[]={};", "units[];\r\nx[]={};"}, // No brace of its own.
+        {"units[]={};\r\nunits[]={B,C};", "units[]={New};\r\nunits[]={New,B,C};"}};
+    for (const auto& [before, after] : cases)
+        EXPECT_EQ(added(config(before), "New"), config(after));
+}
+
+TEST_P(PatchList, ScansTheFirstBlockFromTheKeywordOn)
+{
+    const auto inTwo = [](const std::string& first, const std::string& second) {
+        return "class CfgPatches {\r\n class A {\r\n  units[]={" + first + "};\r\n };\r\n class B {\r\n  units[]={"
+             + second + "};\r\n };\r\n};\r\n";
+    };
+    EXPECT_EQ(added(inTwo("", ""), "N"), inTwo("N", "N"));
+    // A long item makes the scan read the list's closing brace twice, so that it ends with the first class.
+    EXPECT_EQ(added(inTwo("", ""), "LongName"), inTwo("LongName", ""));
+    const std::string list = "units[]={};\r\n";
+    for (const std::string before : {"units[]={};\r\n// cfgPATCHES\r\n{\r\n", "// no units[]\r\nclass A {\r\n"})
+        EXPECT_EQ(added(before + list + "};" + list, "N"), before + "units[]={N};\r\n};" + list);
+    EXPECT_EQ(added("", "N"), "");
+
+    for (const std::size_t start : {32'767U, 65'530U, 200'000U}) {
+        const std::string front = "class A {\r\n units[]={};\r\n};\r\n" + std::string(start, ' ');
+        EXPECT_EQ(added(front + config("units[]={Old};"), "New"), front + config("units[]={New,Old};"));
+    }
+    const std::string comment = "// " + std::string(5000, 'x') + "\r\n";
+    EXPECT_EQ(added(config(comment + list), "New"), config(comment + "units[]={New};\r\n"));
+}
+
+TEST_P(PatchList, AddsSeveralItemsAsOneByOne)
+{
+    const std::vector<std::string> items{"first", "\"second\"", "3", "čtvrtý"};
+    for (const std::string& text : {config("units[]={};"), config("units[]=\r\n{\r\n};\r\nunits[]={Old};")}) {
+        AnyTextBox single(GetParam(), text);
+        AnyTextBox together(GetParam(), text);
+        for (const std::string& item : items)
+            AddToPatchList(*single, "UNITS[]", item);
+        AddToPatchList(*together, "units[]", items);
+        EXPECT_EQ(together->text(), single->text());
+        EXPECT_NE(together->text().find("{čtvrtý,3,\"second\",first"), std::string_view::npos);
+        EXPECT_TRUE(together->range(0, together->caret()).ends_with("{čtvrtý,"));
+    }
+}
+
+} // namespace
+} // namespace kitwright

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "app/application.h"
+#include "platform/qt_text.h"
+#include "support/fake_dialogs.h"
+#include "support/memory_file_system.h"
+
+#include <functional>
+#include <memory>
+#include <stdexcept>
+
+namespace kitwright::testing {
+
+/// Notes what it is asked to start, and starts nothing.
+class RecordingLauncher final : public ProgramLauncher {
+public:
+    std::vector<std::pair<std::string, std::string>> started; ///< Program and argument.
+
+    Failure start(const std::string& program, const std::string& argument) override
+    {
+        started.emplace_back(program, argument);
+        return {};
+    }
+};
+
+/// The whole program with the shipped data files, on files in memory and with dialogs that are answered by queues.
+/// Nothing runs until `start`; the files may be arranged before.
+class RunningApplication {
+public:
+    RunningApplication();
+
+    MemoryFileSystem files;
+    FakeDialogs dialogs;
+    RecordingLauncher launcher;
+
+    std::string& file(const std::string& path) { return files.files[path]; }
+
+    /// Ends the program if it runs, starts it anew on the same files and shows its main window. `atChooser` gets the
+    /// language chooser of a first start, which is closed after it.
+    void start(const std::function<void(QWidget&)>& atChooser = [](QWidget&) {});
+
+    /// Lays down a settings file, so that the next start asks for no language.
+    void storeSettings(const EditorSettings& settings);
+
+    /// Starts with default settings and the language of a file.
+    void startWith(const std::string& languageFile = {});
+
+    Application& program() { return *m_application; }
+    SharedState& state() { return m_application->state(); }
+    RichTextBox& box() { return m_application->mainWindow().configedit(); }
+    std::string text() { return std::string(box().text()); }
+    std::string caption() { return fromQt(m_application->mainWindow().windowTitle()); }
+
+    /// A window, or a control of a window, by its name; throws when there is none. Other windows, which bear the same
+    /// names inside, are not looked into.
+    QWidget& window(std::string_view name);
+
+    template <class Control = QWidget>
+    Control& control(std::string_view name, std::string_view windowName = "fmrconfigedit")
+    {
+        QWidget& in = window(windowName);
+        for (Control* found : in.findChildren<Control*>(toQt(name))) {
+            if (isPartOf(in, found))
+                return *found;
+        }
+        throw std::out_of_range(std::string(windowName) + '.' + std::string(name));
+    }
+
+    /// The caption that a control shows.
+    std::string captionOf(std::string_view name, std::string_view windowName = "fmrconfigedit");
+
+    /// Clicks a control of the main window with the mouse, or chooses a menu entry.
+    void use(std::string_view name);
+
+    /// Does what opens a modal window; `inside` gets that window, which is hidden after it if it is still there.
+    /// False when no window came.
+    static bool withModal(const std::function<void()>& open, const std::function<void(QWidget&)>& inside);
+
+    /// Runs the event loop of the program with `act` as its first event; true when the program ended by itself.
+    static bool endsBy(const std::function<void()>& act);
+
+private:
+    static bool isPartOf(const QWidget& window, const QObject* control);
+
+    TextFiles m_texts;
+    std::unique_ptr<Application> m_application;
+};
+
+} // namespace kitwright::testing

@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/style_marks.h"
+
+#include "app/colouring.h"
+
+#include <limits>
+
+namespace kitwright::testing {
+
+namespace {
+
+constexpr char plain = ' ';
+
+char letterOf(const TextStyle& style, const EditorSettings& settings)
+{
+    if (style == TextStyle{})
+        return plain;
+    if (style == commentStyle(settings))
+        return 'K';
+    if (style == oldStyle)
+        return 'O';
+    constexpr char letters[] = {'C', 'L', 'N'};
+    for (const int keywordClass : {1, 2, 3}) {
+        if (style == keywordStyle(static_cast<KeywordClass>(keywordClass), settings))
+            return letters[keywordClass - 1];
+    }
+    return '?';
+}
+
+std::string render(const RichTextBox& box, Position from, Position caret, const EditorSettings& settings)
+{
+    std::string result;
+    char open = plain;
+    for (Position i = from; i <= box.length(); ++i) {
+        const char letter = i < box.length() ? letterOf(box.styleAt(i), settings) : plain;
+        if (i == caret)
+            result += '|';
+        if (letter != open && open != plain)
+            result += '>';
+        if (letter != open && letter != plain)
+            result += {'<', letter, ':'};
+        open = letter;
+        if (i < box.length())
+            result += box.at(i);
+    }
+    return result;
+}
+
+} // namespace
+
+EditorSettings distinctStyles()
+{
+    EditorSettings settings;
+    settings.ConfigKeywordItalic = true;
+    settings.CommentColor = 0x008000;
+    settings.CommentItalic = true;
+    return settings;
+}
+
+KeywordList sampleKeywords()
+{
+    KeywordList keywords;
+    keywords.addLines("Man\r\nŠkoda\r\n", KeywordClass::ClassName);
+    keywords.addLines("requiredVersion\r\nunits[]\r\n", KeywordClass::ConfigCommand);
+    keywords.addLines("odd\r\n", KeywordClass{7});
+    for (const std::string_view word : {"class", "CfgPatches"})
+        keywords.add(word, KeywordClass::CLanguageWord);
+    return keywords;
+}
+
+std::string marked(const RichTextBox& box, Position from, const EditorSettings& settings)
+{
+    return render(box, from, box.caret(), settings);
+}
+
+std::string markedText(const RichTextBox& box)
+{
+    return render(box, 0, std::numeric_limits<Position>::max(), distinctStyles());
+}
+
+} // namespace kitwright::testing
