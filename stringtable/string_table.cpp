@@ -158,6 +158,8 @@ TableRecord StringTable::recordOf(const Row& row, const TableHeading& heading) c
         // A key that was added here is written as the author typed it.
         record.fields[field] = row.record ? withFieldText(record.fields[field], text) : text;
     }
+    if (row.record && record != *row.record)
+        settleOpenQuotes(record);
     return record;
 }
 

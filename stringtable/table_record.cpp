@@ -33,7 +33,8 @@ std::size_t closingQuote(std::string_view text, std::size_t position)
     while ((position = text.find_first_of("\"\r\n", position)) != npos) {
         if (text[position] != '"') {
             ++position;
-            if (text.substr(position).starts_with(keyPrefix))
+            const std::size_t start = std::min(text.find_first_not_of(blanks, position), text.size());
+            if (text.substr(start).starts_with(keyPrefix))
                 return npos;
         } else if (text.substr(position, 2) == "\"\"") {
             position += 2;
@@ -155,6 +156,14 @@ std::string withFieldText(std::string_view field, std::string_view text)
         return std::string(field.substr(0, open + 1)) + escaped(wanted) + std::string(field.substr(close));
     }
     return needsQuotes(wanted) ? '"' + escaped(wanted) + '"' : wanted;
+}
+
+void settleOpenQuotes(TableRecord& record)
+{
+    for (std::string& field : record.fields) {
+        if (!isQuoted(field) && withoutBlanks(field).starts_with('"'))
+            field = '"' + escaped(field) + '"';
+    }
 }
 
 bool isTableRecord(const TableRecord& record)

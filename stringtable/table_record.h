@@ -31,6 +31,10 @@ std::string fieldText(std::string_view field);
 /// field gets quotes, and line breaks are bare LF where the field's were.
 std::string withFieldText(std::string_view field, std::string_view text);
 
+/// Puts quotes around the fields whose first character is a quote that nothing closes. To be done to a record whose
+/// other fields change: such a quote could pair up with one that a new text brings.
+void settleOpenQuotes(TableRecord& record);
+
 /// True for a record of the table, whatever follows the prefix.
 bool isTableRecord(const TableRecord& record);
 
