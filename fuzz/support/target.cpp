@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/target.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace kitwright::fuzzing {
+
+void require(bool kept, const char* promise)
+{
+    if (kept)
+        return;
+    std::fprintf(stderr, "Not kept: %s\n", promise);
+    std::abort();
+}
+
+} // namespace kitwright::fuzzing
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    kitwright::fuzzing::tryInput({reinterpret_cast<const char*>(data), size});
+    return 0;
+}
