@@ -38,7 +38,8 @@ constexpr const char* vehicleFile = "/Bfdata/kitwright/kitwrightvehicles.dat";
 } // namespace
 
 Application::Application(const Desktop& desktop, const std::string& programFolder)
-    : m_desktop((initIcons(), desktop)), m_main(m_desktop, m_state, m_keywords, *this)
+    : m_desktop((initIcons(), desktop)),
+      m_main(m_desktop, m_state, m_keywords, *this)
 {
     m_state.programFolder = programFolder;
 }
@@ -120,7 +121,8 @@ void Application::loadVehicles()
 
 void Application::applyLanguage(const std::string& path)
 {
-    ApplyLanguage(m_main.context(), [this](std::string_view name) { return window(name); }, path);
+    ApplyLanguage(
+        m_main.context(), [this](std::string_view name) { return window(name); }, path);
 }
 
 QWidget* Application::window(std::string_view name)
@@ -150,11 +152,13 @@ QDialog* Application::make(std::string_view name)
     if (name == "Form4")
         return new Form4(context, &m_main);
     if (name == "Form5")
-        return new Form5(context, [this] { return chooseFolder(); }, &m_main);
+        return new Form5(
+            context, [this] { return chooseFolder(); }, &m_main);
     if (name == "Form6")
         return new Form6(context, &m_main);
     if (name == "Form7")
-        return new Form7(context, [this](const std::string& path) { applyLanguage(path); }, &m_main);
+        return new Form7(
+            context, [this](const std::string& path) { applyLanguage(path); }, &m_main);
     if (name == "Form8")
         return new Form8(&m_main);
     if (name == "Form9")

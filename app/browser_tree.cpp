@@ -32,8 +32,7 @@ BrowserTree::BrowserTree(QWidget* parent) : QTreeWidget(parent)
     setUniformRowHeights(true);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    connect(this, &QTreeWidget::itemClicked, this,
-            [this](const QTreeWidgetItem* item) { click(*item); });
+    connect(this, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) { click(*item); });
 }
 
 void BrowserTree::showTree(const KeywordTree& tree)
@@ -46,7 +45,8 @@ void BrowserTree::showTree(const KeywordTree& tree)
     headingFont.setBold(true);
     items.reserve(static_cast<qsizetype>(tree.nodes().size()));
     for (const TreeNode& node : tree.nodes()) {
-        auto* item = node.parent == TreeNode::noParent ? new QTreeWidgetItem : new QTreeWidgetItem(items[node.parent]);
+        auto* item =
+            node.parent == TreeNode::noParent ? new QTreeWidgetItem : new QTreeWidgetItem(items[node.parent]);
         item->setText(0, toQt(node.text));
         item->setData(0, nodeRole, static_cast<int>(items.size()));
         if (node.isHeading())

@@ -16,8 +16,8 @@ enum Paint : char { Plain, ConfigCommand, CLanguageWord, ClassName, Comment };
 /// Where a word may end or a comment may begin; every other byte is skipped.
 constexpr std::array<bool, 256> isNotable = [] {
     std::array<bool, 256> table{};
-    for (const unsigned char character : {' ', '\r', '\n', '/'})
-        table[character] = true;
+    for (const char character : {' ', '\r', '\n', '/'})
+        table[static_cast<unsigned char>(character)] = true;
     return table;
 }();
 

@@ -18,7 +18,9 @@ constexpr const char* configAndAllFilter = "Config files|*.cpp*|All files|*.*";
 } // namespace
 
 DocumentCommands::DocumentCommands(Context& context, ProgramLauncher& launcher, DocumentSurroundings& surroundings)
-    : m_context(context), m_launcher(launcher), m_surroundings(surroundings)
+    : m_context(context),
+      m_launcher(launcher),
+      m_surroundings(surroundings)
 {
     CommonDialog1.defaultExtension = "cpp";
 }
@@ -77,7 +79,8 @@ bool DocumentCommands::askForFile()
     const std::string name = FileNameOf(*path);
     if (upperCased(name) == "CONFIG.CPP")
         return true;
-    const std::string question = m_context.text(66) + "\r\n" + m_context.text(67) + name + "\r\n" + m_context.text(68);
+    const std::string question =
+        m_context.text(66) + "\r\n" + m_context.text(67) + name + "\r\n" + m_context.text(68);
     if (m_context.dialogs.askYesNo(question))
         m_context.state.CurrentFile = FolderOf(*path) + "Config.cpp";
     return true;
@@ -104,8 +107,8 @@ void DocumentCommands::makePbo()
     }
     if (m_context.state.PatchClassName.empty())
         askForPatchClassName();
-    m_surroundings.stepFailed("starting the packer",
-                              m_launcher.start(m_context.inProgramFolder("/brakpak.exe"), packerArgument(m_context.state)));
+    m_surroundings.stepFailed("starting the packer", m_launcher.start(m_context.inProgramFolder("/brakpak.exe"),
+                                                                      packerArgument(m_context.state)));
 }
 
 void DocumentCommands::VlozText(const std::string& Jmeno)

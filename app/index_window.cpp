@@ -12,7 +12,10 @@
 namespace kitwright {
 
 frmrejstrik2::frmrejstrik2(Context& context, const KeywordList& keywords, QWidget* parent)
-    : QDialog(parent), m_context(context), m_keywords(keywords), m_ui(std::make_unique<Ui::frmrejstrik2>())
+    : QDialog(parent),
+      m_context(context),
+      m_keywords(keywords),
+      m_ui(std::make_unique<Ui::frmrejstrik2>())
 {
     m_ui->setupUi(this);
     m_ui->txtprikaz->installEventFilter(this);

@@ -9,7 +9,9 @@
 namespace kitwright {
 
 LiveColouring::LiveColouring(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings)
-    : m_box(box), m_keywords(keywords), m_settings(settings)
+    : m_box(box),
+      m_keywords(keywords),
+      m_settings(settings)
 {
     m_box.setObserver(this);
 }

@@ -18,7 +18,6 @@
 #include <QCloseEvent>
 #include <QScreen>
 
-
 namespace kitwright {
 
 namespace {
@@ -38,9 +37,13 @@ std::unique_ptr<Ui::fmrconfigedit> setUp(fmrconfigedit& window)
 
 fmrconfigedit::fmrconfigedit(const Desktop& desktop, SharedState& state, const KeywordList& keywords,
                              WindowSupplier& windows)
-    : m_context{state, desktop.files, desktop.texts, desktop.dialogs, *this}, m_windows(windows),
-      m_keywords(keywords), m_ui(setUp(*this)), m_box(*m_ui->configedit, desktop.texts.codePage()),
-      m_live(m_box, keywords, state.Settings), m_commands(m_context, desktop.launcher, *this)
+    : m_context{state, desktop.files, desktop.texts, desktop.dialogs, *this},
+      m_windows(windows),
+      m_keywords(keywords),
+      m_ui(setUp(*this)),
+      m_box(*m_ui->configedit, desktop.texts.codePage()),
+      m_live(m_box, keywords, state.Settings),
+      m_commands(m_context, desktop.launcher, *this)
 {
     new BraceMatcher(*m_ui->configedit);
     new LineNumberMargin(*m_ui->configedit);
@@ -77,22 +80,25 @@ void fmrconfigedit::connectDocumentCommands()
 
 void fmrconfigedit::connectWindows()
 {
-    const auto opens = [this](auto* sender, auto signal, void (WindowSupplier::*showing)(QStringView), QStringView name) {
-        connect(sender, signal, this, [this, showing, name] { (m_windows.*showing)(name); });
+    const auto modal = [this](auto* sender, auto signal, QStringView name) {
+        connect(sender, signal, this, [this, name] { m_windows.showModal(name); });
+    };
+    const auto beside = [this](auto* sender, auto signal, QStringView name) {
+        connect(sender, signal, this, [this, name] { m_windows.showBeside(name); });
     };
     const auto clicked = &QAbstractButton::clicked;
     const auto triggered = &QAction::triggered;
-    opens(m_ui->cmdrejstrik, clicked, &WindowSupplier::showModal, u"frmrejstrik2");
-    opens(m_ui->cmdstrings, clicked, &WindowSupplier::showBeside, u"Form4");
-    opens(m_ui->cmdsetup, clicked, &WindowSupplier::showModal, u"Form5");
-    opens(m_ui->cmdhelp, clicked, &WindowSupplier::showBeside, u"Form9");
-    opens(m_ui->mnuwizardfaces, triggered, &WindowSupplier::showBeside, u"frmfaceaddon");
-    opens(m_ui->mnuwizardgun, triggered, &WindowSupplier::showBeside, u"Form1");
-    opens(m_ui->mnuammoadd, triggered, &WindowSupplier::showBeside, u"Form3");
-    opens(m_ui->mnuwizardvehikly, triggered, &WindowSupplier::showBeside, u"frmvehikl");
-    opens(m_ui->mnusetupedit, triggered, &WindowSupplier::showModal, u"Form5");
-    opens(m_ui->mnijazyk, triggered, &WindowSupplier::showModal, u"Form7");
-    opens(m_ui->mnuabout, triggered, &WindowSupplier::showModal, u"Form8");
+    modal(m_ui->cmdrejstrik, clicked, u"frmrejstrik2");
+    beside(m_ui->cmdstrings, clicked, u"Form4");
+    modal(m_ui->cmdsetup, clicked, u"Form5");
+    beside(m_ui->cmdhelp, clicked, u"Form9");
+    beside(m_ui->mnuwizardfaces, triggered, u"frmfaceaddon");
+    beside(m_ui->mnuwizardgun, triggered, u"Form1");
+    beside(m_ui->mnuammoadd, triggered, u"Form3");
+    beside(m_ui->mnuwizardvehikly, triggered, u"frmvehikl");
+    modal(m_ui->mnusetupedit, triggered, u"Form5");
+    modal(m_ui->mnijazyk, triggered, u"Form7");
+    modal(m_ui->mnuabout, triggered, u"Form8");
 }
 
 void fmrconfigedit::connectBrowsers()

@@ -82,7 +82,7 @@ private:
     DocumentCommands m_commands;
     const KeywordTree* m_classes = nullptr;
 
-    int m_changes = 0;          ///< Open document changes.
+    int m_changes = 0;           ///< Open document changes.
     bool m_colouringDue = false; ///< A full pass waits for their end.
 
     int RememberedWidth = 0;  ///< The window's inner width at the last start-up or resize.

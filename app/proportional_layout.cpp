@@ -8,7 +8,11 @@
 namespace kitwright {
 
 ProportionalLayout::ProportionalLayout(double width, double height, std::vector<Geometry> controls)
-    : m_firstWidth(width), m_firstHeight(height), m_width(width), m_height(height), m_controls(std::move(controls))
+    : m_firstWidth(width),
+      m_firstHeight(height),
+      m_width(width),
+      m_height(height),
+      m_controls(std::move(controls))
 {
 }
 
