@@ -3,10 +3,15 @@
 
 #include "app/application.h"
 
+#include "lang/caption_table.h"
 #include "platform/windows_1250.h"
 #include "support/running_application.h"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QListWidget>
+#include <QMenu>
+#include <QStringDecoder>
 #include <QTreeWidget>
 #include <QWindow>
 #include <gtest/gtest.h>
@@ -22,22 +27,12 @@ const std::string dataFolder = "/program/Bfdata/kitwright/";
 const std::string classFile = dataFolder + "configclass.dat";
 const std::string commandFile = dataFolder + "configcommands.dat";
 
-/// The settings file as a first start leaves it while it asks for the language.
-const std::string defaultRecord = "\x80\x80\xFF\0\0\0\0\0"   // commands: colour, bold, italic
-                                  "\0\0\xC0\0\xFF\xFF\0\0"   // words of the C language
-                                  "\xC0\x40\0\0\xFF\xFF\0\0" // class names
-                                  "\xFF\xFF\0\0\0\0"         // starting text, declare from root, colouring off
-                                  "\0\0\0\0\0\0\0\0"         // comments: bold, italic, colour
-                                  "\0\0\0\0"s;               // two empty strings
-
 struct Start : ::testing::Test {
     testing::RunningApplication app;
 
-    EditorSettings stored()
+    static std::string pathOf(const std::string& language)
     {
-        EditorSettings settings;
-        decodeSettings(app.file(settingsFile), windows1250(), settings);
-        return settings;
+        return "/program/Bfdata/languages/kitwright/" + language + ".lng";
     }
 
     qsizetype entriesOf(std::string_view tree, std::string_view window = "fmrconfigedit")
@@ -48,53 +43,46 @@ struct Start : ::testing::Test {
     qsizetype linesOf(const std::string& path) { return static_cast<qsizetype>(dataLines(app.file(path)).size()); }
 };
 
-} // namespace
-
-TEST_F(Start, WritesTheDefaultsAndAsksForALanguageWhenThereAreNoSettings)
+bool fits(const QWidget& control)
 {
-    std::string atChooser;
-    app.start([&](QWidget& chooser) {
-        EXPECT_EQ(chooser.objectName(), "Form7");
-        atChooser = app.file(settingsFile);
-        chooser.close();
-    });
-    EXPECT_EQ(atChooser, defaultRecord);
-    EXPECT_EQ(app.state().TextTable, UiTexts());
-    EXPECT_EQ(app.caption(), "Brakvane - Add-ons editor");
-
-    EditorSettings expected;
-    expected.PboFolder = "/program";
-    EXPECT_EQ(app.state().Settings, expected);
-    EXPECT_EQ(app.file(settingsFile), defaultRecord);
-    app.program().mainWindow().close();
-    EXPECT_EQ(stored(), expected);
+    const auto* label = qobject_cast<const QLabel*>(&control);
+    return label && label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
+                                      : control.width() >= control.sizeHint().width();
 }
 
-TEST_F(Start, SurvivesEverySettingsFile)
-{
-    EditorSettings full;
-    full.PboFolder = "/packed";
-    full.LanguageFile = "/program/Bfdata/languages/kitwright/deutsch.lng";
-    const std::string record = encodeSettings(full, windows1250());
-    EditorSettings withoutLanguage = full;
-    withoutLanguage.LanguageFile.clear();
+} // namespace
 
-    const std::pair<std::string, EditorSettings> cases[] = {{record, full},
-                                                            {record + "later fields", full},
-                                                            {record.substr(0, record.size() - 1), withoutLanguage},
-                                                            {record.substr(0, 5), {}},
-                                                            {"", {}}};
-    for (const auto& [bytes, expected] : cases) {
+TEST_F(Start, WritesTheDefaultsAndAsksOnceForALanguageWhenThereAreNoSettings)
+{
+    app.start([&](QWidget& chooser) {
+        EXPECT_EQ(chooser.objectName(), "Form7");
+        EXPECT_EQ(app.file(settingsFile), encodeSettings({}, windows1250()));
+        EXPECT_EQ(app.state().TextTable, UiTexts());
+        EXPECT_EQ(app.caption(), "Brakvane - Add-ons editor");
+        auto* list = chooser.findChild<QListWidget*>("List1");
+        list->setCurrentItem(list->findItems("deutsch.lng", Qt::MatchExactly).value(0));
+        chooser.findChild<QAbstractButton*>("Command1")->click();
+    });
+    EXPECT_EQ(app.captionOf("Command1"), "Beenden");
+    EXPECT_EQ(app.file(settingsFile), encodeSettings({}, windows1250()));
+    app.program().mainWindow().close();
+
+    app.start([](QWidget&) { ADD_FAILURE() << "the language is asked for again"; });
+    EditorSettings expected;
+    expected.PboFolder = "/program";
+    expected.LanguageFile = pathOf("deutsch");
+    EXPECT_EQ(app.state().Settings, expected);
+    EXPECT_EQ(app.captionOf("Command1"), "Beenden");
+}
+
+TEST_F(Start, SurvivesASettingsFileThatIsNone)
+{
+    for (const std::string& bytes : {std::string(), std::string(5, 'x'), std::string(100, '\xFF')}) {
         app.file(settingsFile) = bytes;
-        app.start();
-        EXPECT_EQ(app.state().Settings, expected) << bytes.size();
-        EXPECT_EQ(app.captionOf("Command1"), expected.LanguageFile.empty() ? "Konec" : "Beenden") << bytes.size();
-        EXPECT_GT(app.program().keywords().count(), 100) << bytes.size();
+        app.start([](QWidget&) { ADD_FAILURE() << "a language is asked for"; });
+        EXPECT_EQ(app.captionOf("Command1"), "Konec");
+        EXPECT_GT(app.program().keywords().count(), 100);
     }
-    app.file(settingsFile) = std::string(100, '\xFF');
-    app.start();
-    EXPECT_EQ(app.state().Settings.PboFolder, "");
-    EXPECT_GT(app.program().keywords().count(), 100);
 }
 
 TEST_F(Start, FillsTreesListsAndKeywords)
@@ -104,7 +92,7 @@ TEST_F(Start, FillsTreesListsAndKeywords)
     EXPECT_EQ(entriesOf("commands"), linesOf(commandFile));
     EXPECT_EQ(entriesOf("vlastnosti", "frmvehikl"), linesOf(dataFolder + "kitwrightvehicles.dat"));
     EXPECT_EQ(app.control<QListWidget>("List1", "frmvehikl").count(), linesOf(dataFolder + "addvehicles.dat"));
-    EXPECT_TRUE(app.dialogs.messages.empty());
+    EXPECT_EQ(app.dialogs.log, "");
 
     app.file(classFile) = "* vehicles *\r\n   Tank\r\n   Class\r\n";
     app.file(commandFile) = "commands\r\n   TANK\r\n";
@@ -118,21 +106,20 @@ TEST_F(Start, FillsTreesListsAndKeywords)
 
 TEST_F(Start, TellsOfMissingKeywordFilesOnly)
 {
-    const std::string classesMessage = "Missing: " + classFile + "\r\n";
-    const std::string commandsMessage = "Missing: " + commandFile + "\r\n";
-    const std::pair<std::vector<std::string>, std::vector<std::string>> cases[] = {
-        {{classFile}, {commandsMessage, commandsMessage}},
-        {{commandFile}, {classesMessage}},
-        {{}, {classesMessage, commandsMessage, commandsMessage}}};
+    const std::string classesMessage = "tell Missing: " + classFile + "\r\n\n";
+    const std::string commandsMessage = "tell Missing: " + commandFile + "\r\n\n";
+    const std::pair<std::string, std::string> cases[] = {{classFile, commandsMessage + commandsMessage},
+                                                         {commandFile, classesMessage},
+                                                         {"", classesMessage + commandsMessage + commandsMessage}};
     const auto all = app.files.files;
     for (const auto& [kept, messages] : cases) {
         app.files.files.clear();
-        for (const std::string& path : kept)
-            app.file(path) = all.at(path);
-        app.dialogs.messages.clear();
+        if (!kept.empty())
+            app.file(kept) = all.at(kept);
+        app.dialogs.log.clear();
         app.startWith("/gone.lng");
-        EXPECT_EQ(app.dialogs.messages, messages);
-        EXPECT_EQ(entriesOf("classes") + entriesOf("commands"), kept.empty() ? 0 : linesOf(kept[0]));
+        EXPECT_EQ(app.dialogs.log, messages);
+        EXPECT_EQ(entriesOf("classes") + entriesOf("commands"), kept.empty() ? 0 : linesOf(kept));
         EXPECT_EQ(app.caption(), "") << "the captions are set from the empty table";
     }
     EXPECT_EQ(app.program().keywords().count(), 3);
@@ -149,10 +136,32 @@ TEST_F(Start, IsFollowedByAnEndThatClosesEverythingAndWritesTheSettings)
             app.program().showBeside(toQt(tool));
         app.state().Settings.CommentColor = 0x123456;
         EXPECT_TRUE(testing::RunningApplication::endsBy(end));
-        EXPECT_EQ(stored().CommentColor, 0x123456U);
+        EXPECT_EQ(app.file(settingsFile).substr(34, 4), "\x56\x34\x12\0"s);
         EXPECT_FALSE(app.program().mainWindow().isVisible());
         for (const std::string& tool : tools)
             EXPECT_FALSE(app.window(tool).isVisible()) << tool;
+    }
+}
+
+TEST_F(Start, ShowsTheLinesOfTheLanguageInControlsThatTheyFit)
+{
+    for (const char* language : {"cestina", "english", "deutsch", "polski", "slovencina"}) {
+        app.startWith(pathOf(language));
+        const QString text = QStringDecoder("windows-1250")(QByteArrayView(app.file(pathOf(language))));
+        const QStringList lines = text.split(QStringLiteral("\r\n"));
+        ASSERT_EQ(lines.size(), 77) << language << ": 76 lines, the last one ended";
+        for (const auto& [windowName, control, number] : captionTable()) {
+            SCOPED_TRACE(::testing::Message() << language << ' ' << windowName << '.' << control);
+            QWidget& window = app.window(windowName);
+            window.show();
+            const std::string line = fromQt(lines[static_cast<qsizetype>(number)]);
+            EXPECT_NE(line, "");
+            EXPECT_EQ(control.empty() ? fromQt(window.windowTitle()) : app.captionOf(control, windowName), line);
+            if (control.empty())
+                continue;
+            const auto* widget = qobject_cast<QWidget*>(&app.control<QObject>(control, windowName));
+            EXPECT_TRUE(!widget || qobject_cast<const QMenu*>(widget) || fits(*widget));
+        }
     }
 }
 

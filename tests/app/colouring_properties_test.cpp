@@ -7,6 +7,7 @@
 #include "platform/qt_text.h"
 #include "services/letter_case.h"
 #include "support/any_text_box.h"
+#include "support/scenario.h"
 #include "support/style_marks.h"
 
 #include <gtest/gtest.h>
@@ -34,13 +35,10 @@ public:
 
     std::string text()
     {
-        static constexpr const char* pieces[] = {
-            "class", "CLASS", "Class", "CFGPATCHES", "man", "Man", "škoda", "ŠKODA", "units[]", "žena",
-            "x",     "ž",     "/",     "/",          "//",  "a/b", "};",    "Man{",  " ",       " ",
-            " ",     " ",     " ",     " ",          " ",   "  ",  "\r\n",  "\r\n",  "\r\n",    "\r\n\r\n"};
+        static const testing::Cells pieces = testing::scenarioLines("tables/pieces.txt").front();
         std::string result;
         for (std::size_t count = below(30); count > 0; --count)
-            result += pieces[below(std::size(pieces))];
+            result += pieces[below(pieces.size())];
         return result;
     }
 

@@ -5,6 +5,7 @@
 
 #include "support/any_text_box.h"
 #include "support/running_application.h"
+#include "support/scenario.h"
 #include "support/style_marks.h"
 
 #include <QTest>
@@ -44,60 +45,12 @@ std::string repeated(std::string_view text, int times)
     return result;
 }
 
-/// The program with a few keywords.
-struct Program : ::testing::Test {
-    testing::RunningApplication app;
-
-    Program()
-    {
-        app.file("/program/Bfdata/kitwright/configclass.dat") = "People\r\n   Man\r\n";
-        app.file("/program/Bfdata/kitwright/configcommands.dat") = "Lists\r\n   units[]\r\n";
-        app.startWith();
-        app.state().Settings = testing::distinctStyles();
-    }
-
-    void open(const std::string& text)
-    {
-        app.file("/addon/config.cpp") = text;
-        app.dialogs.openAnswers = {"/addon/config.cpp"};
-        app.use("cmdopen");
-    }
-
-    void type(const char* keys) { QTest::keyClicks(&app.control("configedit"), keys); }
-    void undo() { QTest::keyClick(&app.control("configedit"), Qt::Key_Z, Qt::ControlModifier); }
-    bool shows(const std::string& marks) { return markedText(app.box()) == marks; }
-};
-
 } // namespace
 
 TEST_P(FullPassOver, StylesEveryWordThatABlankEndsAndEveryComment)
 {
     // All of the text has the old style at first, so that what the pass leaves alone shows.
-    const struct {
-        std::string before;
-        std::string after;
-    } cases[] = {
-        {"", ""},
-        {" \r\n  \r\n", " \r\n  \r\n"},
-        {"class requiredVersion Man\rx\n", "<L:class> <C:requiredVersion> <N:Man>\rx\n"},
-        {"CLASS cfgpatches cLaSs\r\n", "<L:class> <L:CfgPatches> <L:class>\r\n"},
-        {"ODD Odd odd ", "<O:odd> <O:odd> <O:odd> "},
-        {"CfgPatches{ \tclass class; classes clas ", "CfgPatches{ \tclass class; classes clas "},
-        {"class class", "<L:class> <O:class>"},
-        {"class", "<O:class>"},
-        {"ŠKODA škoda žena Žkoda ", "<N:Škoda> <N:Škoda> žena Žkoda "},
-        {"x // class ž\r\nclass y\r\n", "x <K:// class ž\r\n><L:class> y\r\n"},
-        {"};//end\r\nclass X ", "<O:};><K://end\r\n><L:class> X "},
-        {"class//\r\n\r\n//a\r\nMan ", "<O:class><K://\r\n>\r\n<K://a\r\n><N:Man> "},
-        {"//a\r//b\rclass \nclass ", "<K://a\r//b\rclass \n><L:class> "},
-        {"a/b class/ / /x class ", "a/b class/ / /x <L:class> "},
-        {"a / /class", "a / <O:/class>"},
-        {"x /", "x <O:/>"},
-        {"x //", "x <K://>"},
-        {"a///b", "<O:a><K:///b>"},
-        {writtenLines, colouredLines},
-    };
-    for (const auto& [before, after] : cases) {
+    for (const auto& [before, after] : testing::scenarioTable<2>("tables/full_pass.txt")) {
         box->loadText(before);
         box->styleRange(0, box->length(), testing::oldStyle);
         colour();
@@ -105,21 +58,14 @@ TEST_P(FullPassOver, StylesEveryWordThatABlankEndsAndEveryComment)
     }
 }
 
-TEST_P(FullPassOver, LeavesTheCaretAndTheSelection)
-{
-    box->loadText("CLASS MAN x");
-    box->select(2, 5);
-    colour();
-    EXPECT_EQ(marked(*box), "<L:class> <N:M|an> x");
-    EXPECT_EQ(box->selection(), (Selection{2, 5}));
-}
-
-TEST_P(FullPassOver, IsOneUndoStepWhereItRespellsAndNoneWhereItOnlyColours)
+TEST_P(FullPassOver, LeavesTheSelectionAndIsAnUndoStepOnlyWhereItRespells)
 {
     box.type("CLASS MAN ");
     const std::string typed(box->text());
+    box->select(2, 5);
     colour();
-    EXPECT_EQ(box->text(), "class Man ");
+    EXPECT_EQ(marked(*box), "<L:class> <N:M|an> ");
+    EXPECT_EQ(box->selection(), (Selection{2, 5}));
     box->replaceSelection("y ");
     colour();
     box.undo();
@@ -157,40 +103,16 @@ TEST(FullPassOverTheControl, LeavesTheViewWhereItIs)
     }
 }
 
-TEST_F(Program, ColoursAConfigAsItOpensAndAgainWithoutAChange)
+TEST(FullPassOfTheProgram, ShowsTheWaitWindowUnlessColouringIsOff)
 {
-    const std::string written = repeated(writtenLines, 200);
-    const std::string coloured = repeated(colouredLines, 200);
-    open(written);
-    EXPECT_TRUE(shows(coloured));
-
-    type("x ");
-    app.use("cmdrefresh");
-    EXPECT_TRUE(shows("x " + coloured));
-    app.use("cmdrefresh");
-    EXPECT_TRUE(shows("x " + coloured));
-    EXPECT_TRUE(app.window("Form2").windowHandle()) << "the wait window has not been shown";
-    EXPECT_FALSE(app.window("Form2").isVisible());
-
-    undo();
-    EXPECT_TRUE(shows(coloured)) << "the author's last edit";
-    undo();
-    EXPECT_TRUE(app.text() == written) << "the respelling of the opened text";
-    undo();
-    EXPECT_TRUE(app.text() == written) << "opening is not undone";
-    app.box().select(app.box().length(), 0);
-    type(" CLASS");
-    EXPECT_TRUE(app.text().ends_with(" class")) << "typing is coloured again after the passes";
-}
-
-TEST_F(Program, ColoursNothingWhileColouringIsOff)
-{
-    app.state().Settings.KeywordColouringOff = true;
-    open("class Man\r\n//x\r\n");
-    type(" CLASS x//");
-    app.use("cmdrefresh");
-    EXPECT_TRUE(shows(" CLASS x//class Man\r\n//x\r\n"));
-    EXPECT_FALSE(app.window("Form2").windowHandle()) << "the wait window has been shown";
+    for (const bool off : {true, false}) {
+        testing::RunningApplication app;
+        app.startWith();
+        app.state().Settings.KeywordColouringOff = off;
+        app.use("cmdrefresh");
+        EXPECT_EQ(app.window("Form2").windowHandle() != nullptr, !off);
+        EXPECT_FALSE(app.window("Form2").isVisible());
+    }
 }
 
 } // namespace kitwright

@@ -3,8 +3,6 @@
 
 #include "app/keyword_list.h"
 
-#include "services/letter_case.h"
-
 #include <gtest/gtest.h>
 
 #include <random>
@@ -36,8 +34,6 @@ TEST(KeywordList, KeepsTheOrderOfTheUpperCasedTexts)
     for (const std::string_view word : {"zero", "Žena", "žaba", "a_b", "AC", "ab", "#define", "Zebra"})
         list.add(word, KeywordClass::ClassName);
     EXPECT_EQ(shown(list), "#define:3 ab:3 AC:3 a_b:3 Zebra:3 zero:3 žaba:3 Žena:3 ");
-    EXPECT_EQ(list.textAt(-1), "");
-    EXPECT_EQ(list.textAt(8), "");
 }
 
 TEST(KeywordList, TakesTheLinesOfAFileThatItDoesNotHave)
@@ -55,40 +51,26 @@ TEST(KeywordList, FindsWhatTheBinarySearchFinds)
 {
     const std::string letters[] = {"a", "A", "b", "_", "ž", "Ž", "č", "Č", "1"};
     std::mt19937 random(11);
-    const auto anyWord = [&] {
+    const auto anyWord = [&](std::size_t longest) {
         std::string word;
-        for (auto length = random() % 4; length > 0; --length)
+        for (auto length = random() % (longest + 1); length > 0; --length)
             word += letters[random() % std::size(letters)];
         return word;
     };
     for (int round = 0; round < 300; ++round) {
+        const bool isLong = round == 0;
+        std::string lines;
+        for (auto count = isLong ? 40'000 : 1 + random() % 40; count > 0; --count)
+            lines += anyWord(isLong ? 7 : 3) + "\r\n";
         KeywordList list;
-        for (auto count = 1 + random() % 40; count > 0; --count)
-            list.add(anyWord(), static_cast<KeywordClass>(1 + random() % 3));
+        list.addLines(lines, KeywordClass::ClassName);
+        list.add(anyWord(3), KeywordClass::CLanguageWord);
         for (int i = 0; i < list.count(); ++i)
-            ASSERT_EQ(list.find(list.textAt(i)), findExact(list, list.textAt(i))) << shown(list);
+            ASSERT_EQ(list.find(list.textAt(i)), findExact(list, list.textAt(i))) << list.textAt(i);
         for (int i = 0; i < 40; ++i) {
-            const std::string word = anyWord();
+            const std::string word = anyWord(3);
             ASSERT_EQ(list.find(word), findExact(list, word)) << shown(list) << "/ " << word;
         }
-    }
-}
-
-TEST(KeywordList, FindsEveryWordOfALongList)
-{
-    constexpr int count = 40'000;
-    std::string lines;
-    for (int i = 0; i < count; ++i)
-        lines += "Word" + std::to_string(i) + "\r\n";
-    KeywordList list;
-    list.addLines(lines, KeywordClass::ClassName);
-    list.add("word777", KeywordClass::CLanguageWord);
-    ASSERT_EQ(list.count(), count + 1);
-    for (int i = 0; i < count; i += 7) {
-        const std::string word = "wORD" + std::to_string(i);
-        ASSERT_EQ(list.find(word), findExact(list, word));
-        ASSERT_TRUE(equalIgnoringCase(list.textAt(list.find(word)), word));
-        ASSERT_EQ(list.find(word + '_'), -1);
     }
 }
 

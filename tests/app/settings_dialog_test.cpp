@@ -7,8 +7,6 @@
 #include "support/fake_host.h"
 
 #include <QCheckBox>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -21,8 +19,7 @@ using S = EditorSettings;
 struct SettingsDialog : ::testing::Test {
     testing::FakeContext fake;
     S& settings = fake.state.Settings;
-    std::string folder;
-    Form5 window{fake.context, [this] { return folder; }};
+    Form5 window{fake.context, [] { return std::string(); }};
 };
 
 } // namespace
@@ -63,20 +60,6 @@ TEST_F(SettingsDialog, WritesEachChosenColourIntoItsField)
         EXPECT_EQ(settings, expected) << name;
         EXPECT_EQ(box->palette().color(QPalette::Window), QColor(0x56, 0x34, 0x12)) << name;
     }
-}
-
-TEST_F(SettingsDialog, TakesTheFolderAsTypedOrChosen)
-{
-    window.show();
-    auto* browse = window.findChild<QPushButton*>("Command2");
-    QTest::keyClicks(window.findChild<QLineEdit*>("txtcesta"), "/packed");
-    browse->click();
-    EXPECT_EQ(settings.PboFolder, "/packed");
-    folder = "/add-ons";
-    browse->click();
-    EXPECT_EQ(settings.PboFolder, "/add-ons");
-    window.findChild<QPushButton*>("Command1")->click();
-    EXPECT_FALSE(window.isVisible());
 }
 
 } // namespace kitwright

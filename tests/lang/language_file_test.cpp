@@ -25,6 +25,12 @@ TEST(LanguageFile, FillsTextsAsFarAsItReaches)
         EXPECT_EQ(texts[1], second);
         EXPECT_EQ(texts[2], third);
     }
+    UiTexts texts;
+    std::string longFile;
+    for (std::size_t line = 0; line <= texts.size(); ++line)
+        longFile += std::to_string(line) + "\r\n";
+    readTexts(longFile, texts);
+    EXPECT_EQ(texts.back(), std::to_string(texts.size() - 1));
 }
 
 TEST(LanguageFolder, ListsTheFilesOfAnExtensionInAlphabeticalOrder)

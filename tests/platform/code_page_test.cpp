@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "platform/windows_1250.h"
+#include "support/scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -21,20 +22,7 @@ TEST(CodePage, GivesEveryByteBackAlsoTheUnassignedOnes)
 
 TEST(CodePage, KeepsWhatAFileCanHold)
 {
-    // Dashes and quotes that the code page has, and others; letters of other scripts; bytes that are no UTF-8: a lead
-    // byte alone, an overlong slash, half of a surrogate pair, a character cut short, one beyond the last.
-    const std::pair<std::string, std::string> cases[] = {{"– ‘’‚ “”„ …", "– ‘’‚ “”„ …"},
-                                                         {"\u2010\u2012\u2212", "---"},
-                                                         {"\u201B\u2032\u201F\u2033", "''\"\""},
-                                                         {"a\u2003b\u202Fc", "a b c"},
-                                                         {"a😀b", "ab"},
-                                                         {"naïve à", "nave "},
-                                                         {"e\u0301日", "e"},
-                                                         {"a\xFF\xC3(b", "a(b"},
-                                                         {"\xC0\xAF\xED\xA0\x80", ""},
-                                                         {"ok\xE2\x82", "ok"},
-                                                         {"\xF4\x90\x80\x80\xF8", ""}};
-    for (const auto& [text, kept] : cases) {
+    for (const auto& [text, kept] : testing::scenarioTable<2>("tables/kept_characters.txt")) {
         EXPECT_EQ(windows1250().keepable(text), kept) << text;
         EXPECT_EQ(windows1250().holds(text), text == kept) << text;
     }

@@ -9,10 +9,15 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <random>
+#include <set>
+#include <thread>
 #include <unistd.h>
 
 namespace kitwright {
@@ -37,6 +42,16 @@ struct Disk : ::testing::Test {
     QTemporaryDir dir;
     QtFileSystem files;
 };
+
+/// Saves the versions in turn until it is killed.
+[[noreturn]] void saveForEver(const std::string& path, const std::vector<std::string>& versions)
+{
+    QtFileSystem files;
+    for (std::size_t round = 0;; ++round) {
+        if (files.writeBytes(path, versions[round % versions.size()]))
+            _exit(1);
+    }
+}
 
 TEST_F(Disk, ReplacesFilesAndKeepsTheirModes)
 {
@@ -92,21 +107,25 @@ TEST_F(Disk, RefusesWhatIsNoRegularFile)
 
 TEST_F(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull)
 {
-    const std::string big(200'000, 'x');
-    put("big.txt", big);
     rlimit before = {};
     ::getrlimit(RLIMIT_FSIZE, &before);
     const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit full{64 * 1024, before.rlim_max};
-    ::setrlimit(RLIMIT_FSIZE, &full);
-    const bool refused[] = {files.writeBytes(at("old.txt"), big).has_value(),
-                            files.copyFile(at("big.txt"), at("old.txt")).has_value(),
-                            !writeInPlace(toQt(at("old.txt")), big).isEmpty()};
-    ::setrlimit(RLIMIT_FSIZE, &before);
+    // A write that buffers take whole fails no sooner than when it ends.
+    const std::pair<std::size_t, rlim_t> cases[] = {{200'000, 64 * 1024}, {5'000, 1024}};
+    for (const auto& [size, limit] : cases) {
+        const std::string bytes(size, 'x');
+        put("new.txt", bytes);
+        const rlimit full{limit, before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &full);
+        const bool refused[] = {files.writeBytes(at("old.txt"), bytes).has_value(),
+                                files.copyFile(at("new.txt"), at("old.txt")).has_value(),
+                                !writeInPlace(toQt(at("old.txt")), bytes).isEmpty()};
+        ::setrlimit(RLIMIT_FSIZE, &before);
+        EXPECT_TRUE(refused[0] && refused[1] && refused[2]) << size;
+        EXPECT_EQ(content("old.txt"), "old") << size;
+        EXPECT_EQ(entries(), 2) << size;
+    }
     std::signal(SIGXFSZ, handler);
-    EXPECT_TRUE(refused[0] && refused[1] && refused[2]);
-    EXPECT_EQ(content("old.txt"), "old");
-    EXPECT_EQ(entries(), 2);
 }
 
 TEST_F(Disk, WritesInPlaceWhereTheFolderTakesNoNewFile)
@@ -141,6 +160,32 @@ TEST_F(Disk, ListsFoldersAndTakesABackslashAsSeparator)
     EXPECT_FALSE(files.listFiles(at("missing")) || files.listFolders(at("old.txt")));
     put("a\\b", "bears the name as it stands");
     EXPECT_EQ(*files.readBytes(at("a\\b")), "bears the name as it stands");
+}
+
+TEST_F(Disk, HoldsAnOldOrANewFileWheneverASaveIsKilled)
+{
+    const std::string path = at("config.cpp");
+    const std::vector<std::string> versions = {std::string(3'000'000, 'a'), std::string(2'000'000, 'b'), "short"};
+    const std::set<std::string> whole(versions.begin(), versions.end());
+    ASSERT_FALSE(files.writeBytes(path, versions.front()));
+
+    constexpr int kills = 200;
+    constexpr int longestLife = 30'000; // µs: several saves
+    std::mt19937 random(20260101);
+    for (int kill = 0; kill < kills; ++kill) {
+        const pid_t child = fork();
+        ASSERT_GE(child, 0);
+        if (child == 0)
+            saveForEver(path, versions);
+        std::this_thread::sleep_for(std::chrono::microseconds(random() % longestLife));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        waitpid(child, &status, 0);
+        ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
+        const auto bytes = files.readBytes(path);
+        ASSERT_TRUE(bytes) << bytes.reason();
+        ASSERT_TRUE(whole.contains(*bytes)) << "torn after kill " << kill << ": " << bytes->size() << " bytes";
+    }
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 
 #include "platform/qt_program_launcher.h"
 #include "platform/qt_text.h"
+#include "support/scenario.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -21,13 +22,7 @@ TEST(ProgramLauncher, PassesOneArgumentAsItStands)
     script.write("#!/bin/sh\nprintf '%s\\n' \"$#\" \"$@\" > \"$0.part\" && mv \"$0.part\" \"$0.seen\"\n");
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     script.close();
-
-    const std::pair<std::string, std::string> cases[] = {
-        {"  a folder/config.cpp  out put.pbo ", "a folder/config.cpp  out put.pbo "},
-        {"\"quoted\" 'too' žluť", "\"quoted\" 'too' žluť"},
-        {"$HOME; `ls` *.cpp & | > out \\ # !", "$HOME; `ls` *.cpp & | > out \\ # !"},
-        {"   ", ""}};
-    for (const auto& [argument, received] : cases) {
+    for (const auto& [argument, received] : testing::scenarioTable<2>("tables/arguments.txt")) {
         EXPECT_EQ(QtProgramLauncher().start(program, argument), Failure());
         QFile seen(toQt(program + ".seen"));
         ASSERT_TRUE(QTest::qWaitFor([&] { return seen.exists(); }, 10'000)) << argument;

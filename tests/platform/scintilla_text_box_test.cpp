@@ -63,21 +63,6 @@ TEST_F(Control, DropsWhatTheCodePageLacksAndMendsLineEndsHoweverTextComes)
     EXPECT_EQ(box.text(), "\r\n");
 }
 
-TEST_F(Control, UndoesNothingPastALoadedTextAndNoStyling)
-{
-    type("x");
-    box.loadText("opened");
-    ctrl(Qt::Key_Z);
-    type("x");
-    ctrl(Qt::Key_Z);
-    EXPECT_EQ(box.text(), "opened");
-    box.styleRange(0, 4, {0xFF, true, true});
-    box.styleAll({{{0xFF00, false, false}}, std::string(6, '\0')});
-    ctrl(Qt::Key_Y);
-    EXPECT_EQ(box.text(), "xopened");
-    EXPECT_EQ(box.styleAt(2), (TextStyle{0xFF00, false, false}));
-}
-
 TEST_F(Control, AnswersEachEventOnceWithinItsUndoStep)
 {
     // The control hears of changes by another way while somebody listens to it through assistive technology.

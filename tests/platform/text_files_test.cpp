@@ -5,6 +5,7 @@
 
 #include "platform/windows_1250.h"
 #include "support/memory_file_system.h"
+#include "support/scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -22,14 +23,7 @@ TEST(DataLines, EndAtCrOrCrLfButNotAtBareLf)
 
 TEST(WithCrLf, MendsEveryLineEndAndNothingElse)
 {
-    const std::pair<std::string, std::string> cases[] = {{"", ""},
-                                                         {"a\r\nb\r\n", "a\r\nb\r\n"},
-                                                         {"a\nb\rc", "a\r\nb\r\nc"},
-                                                         {"\r", "\r\n"},
-                                                         {"a\r\n\r", "a\r\n\r\n"},
-                                                         {"\n\n\r\r", "\r\n\r\n\r\n\r\n"},
-                                                         {"\n\r\n\r", "\r\n\r\n\r\n"}};
-    for (const auto& [text, expected] : cases)
+    for (const auto& [text, expected] : testing::scenarioTable<2>("tables/line_ends.txt"))
         EXPECT_EQ(withCrLf(text), expected) << ::testing::PrintToString(text);
 }
 

@@ -4,6 +4,7 @@
 #include "services/patch_list.h"
 
 #include "support/any_text_box.h"
+#include "support/scenario.h"
 
 #include <gtest/gtest.h>
 
@@ -31,18 +32,7 @@ std::string config(const std::string& lines)
 
 TEST_P(PatchList, TakesTheItemInWhateverHandTheListIsWritten)
 {
-    const std::pair<std::string, std::string> cases[] = {
-        {"units[]={};", "units[]={New};"},
-        {"units[] = { };", "units[] = {New };"},
-        {"\tUNITS[]={\"a\", \"b\"};", "\tUNITS[]={New,\"a\", \"b\"};"},
-        {"units[]={A};", "units[]={NewA};"}, // One character counts as an empty list.
-        {"weapons[]={}; units[]={ A }; x[]={};", "weapons[]={}; units[]={New, A }; x[]={};"},
-        {"units[] =\r\n  {\r\n  };", "units[] =\r\n  {New\r\n  };"},
-        {"units[] =\r\n // mine\r\n {\r\n  Old\r\n };", "units[] =\r\n // mine\r\n {New,\r\n  Old\r\n };"},
-        {"units[] = {\r\n     Old\r\n   };", "units[] = {New,\r\n     Old\r\n   };"},
-        {"units[];\r\nx[]={};", "units[];\r\nx[]={};"}, // No brace of its own.
-        {"units[]={};\r\nunits[]={B,C};", "units[]={New};\r\nunits[]={New,B,C};"}};
-    for (const auto& [before, after] : cases)
+    for (const auto& [before, after] : testing::scenarioTable<2>("tables/patch_list.txt"))
         EXPECT_EQ(added(config(before), "New"), config(after));
 }
 

@@ -26,7 +26,6 @@ struct Words final : TextList {
     {
         return index < 0 || index >= count() ? std::string_view() : words[static_cast<std::size_t>(index)];
     }
-    int exact(std::string_view key) const { return FindExact(0, count() - 1, key, *this); }
     int prefix(std::string_view key) const { return FindPrefix(0, count() - 1, key, *this); }
 
     Texts words;
@@ -65,7 +64,7 @@ TEST(Searches, AgreeWithALinearSearch)
         std::generate(words.begin(), words.end(), word);
         const Words list(words);
         const std::string key = word();
-        const int exact = list.exact(key);
+        const int exact = FindExact(0, list.count() - 1, key, list);
         const auto equal = [&](const std::string& text) { return equalIgnoringCase(text, key); };
         const auto begins = [&](const std::string& text) { return upperCased(text).starts_with(upperCased(key)); };
         ASSERT_EQ(exact >= 0, std::any_of(words.begin(), words.end(), equal)) << key;

@@ -11,7 +11,39 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 namespace kitwright::testing {
+
+/// Types a text into a control key by key; a line break is one key.
+inline void typeKeys(QWidget& control, std::string_view keys)
+{
+    for (const QChar& character : toQt(keys)) {
+        if (character == u'\n')
+            QTest::keyClick(&control, Qt::Key_Return);
+        else if (character != u'\r')
+            QTest::sendKeyEvent(QTest::Click, &control, Qt::Key_unknown, QString(character), Qt::NoModifier);
+    }
+}
+
+/// A box's text with "|" at the caret and, where something is selected, "[" at its start.
+inline std::string withSelection(const RichTextBox& box)
+{
+    std::string text(box.text());
+    text.insert(box.caret(), "|");
+    return box.selection().length == 0 ? text : text.insert(box.selection().start, "[");
+}
+
+/// Opens a text with its selection written as above.
+inline void loadMarked(RichTextBox& box, std::string text)
+{
+    const std::size_t start = std::min(text.find('['), text.find('|'));
+    if (text[start] == '[')
+        text.erase(start, 1);
+    const std::size_t caret = text.find('|');
+    box.loadText(text.erase(caret, 1));
+    box.select(start, caret - start);
+}
 
 /// A rich-text box of either kind, so that one set of cases runs against the stand-in and the real control.
 class AnyTextBox {
@@ -28,18 +60,8 @@ public:
     RichTextBox* operator->() { return &**this; }
     void undo() { m_isReal ? m_real.undo() : m_standIn.undo(); }
 
-    /// Types a text key by key at the caret; a line break is one key.
-    void type(std::string_view keys)
-    {
-        if (!m_isReal)
-            return m_standIn.type(keys);
-        for (const QChar& character : toQt(keys)) {
-            if (character == u'\n')
-                QTest::keyClick(&m_control, Qt::Key_Return);
-            else if (character != u'\r')
-                QTest::sendKeyEvent(QTest::Click, &m_control, Qt::Key_unknown, QString(character), Qt::NoModifier);
-        }
-    }
+    /// Types a text at the caret.
+    void type(std::string_view keys) { m_isReal ? typeKeys(m_control, keys) : m_standIn.type(keys); }
 
 private:
     bool m_isReal;

@@ -6,13 +6,13 @@
 #include "platform/dialogs.h"
 
 #include <deque>
-#include <functional>
 #include <string>
 #include <vector>
 
 namespace kitwright::testing {
 
-/// Answers dialogs from queues and notes what was asked. An empty queue cancels.
+/// Answers dialogs from queues and notes what was asked. An empty queue cancels. `log` tells all of it in order, a line
+/// each: what was asked, and the text or the parts of a file dialog.
 class FakeDialogs final : public Dialogs {
 public:
     std::deque<std::optional<std::string>> openAnswers;
@@ -22,42 +22,46 @@ public:
     std::deque<std::string> textAnswers;
 
     std::vector<FileDialog> openAsked;
-    std::vector<FileDialog> saveAsked;
-    std::vector<std::string> messages;
     std::vector<std::string> questions;
     std::vector<std::string> prompts;
+    std::string log;
 
     std::optional<std::string> openFile(const FileDialog& dialog) override
     {
         openAsked.push_back(dialog);
-        return next(openAnswers);
+        return next("open " + parts(dialog), openAnswers);
     }
 
     std::optional<std::string> saveFile(const FileDialog& dialog) override
     {
-        saveAsked.push_back(dialog);
-        return next(saveAnswers);
+        return next("save " + parts(dialog), saveAnswers);
     }
 
-    std::optional<std::uint32_t> chooseColour() override { return next(colourAnswers); }
-    void showMessage(const std::string& text) override { messages.push_back(text); }
+    std::optional<std::uint32_t> chooseColour() override { return next("colour", colourAnswers); }
+    void showMessage(const std::string& text) override { log += "tell " + text + '\n'; }
 
     bool askYesNo(const std::string& question) override
     {
         questions.push_back(question);
-        return next(yesNoAnswers);
+        return next("yes/no " + question, yesNoAnswers);
     }
 
     std::string askText(const std::string& prompt) override
     {
         prompts.push_back(prompt);
-        return next(textAnswers);
+        return next("text " + prompt, textAnswers);
     }
 
 private:
-    template <class Answer>
-    static Answer next(std::deque<Answer>& answers)
+    static std::string parts(const FileDialog& dialog)
     {
+        return dialog.filter + ", " + dialog.defaultExtension + ", " + dialog.fileName + ", " + dialog.title;
+    }
+
+    template <class Answer>
+    Answer next(const std::string& asked, std::deque<Answer>& answers)
+    {
+        log += asked + '\n';
         if (answers.empty())
             return Answer();
         Answer answer = answers.front();

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include "platform/windows_1250.h"
 #include "services/context.h"
 #include "support/fake_dialogs.h"
 #include "support/memory_file_system.h"
@@ -77,12 +78,12 @@ private:
 
 /// All that a window is built from, with stand-ins for the desktop.
 struct FakeContext {
-    FakeContext();
+    FakeContext() { state.programFolder = "/program"; }
 
     SharedState state;
     MemoryFileSystem files;
-    const CodePage& codePage;
-    TextFiles texts;
+    const CodePage& codePage = windows1250();
+    TextFiles texts{files, codePage};
     FakeDialogs dialogs;
     FakeHost host{state};
     Context context{state, files, texts, dialogs, host};

@@ -44,28 +44,27 @@ public:
 
     Outcome<std::vector<std::string>> listFiles(const std::string& folder) const override
     {
-        std::vector<std::string> names;
-        const std::string prefix = plain(folder + "/");
-        for (const auto& [path, bytes] : files) {
-            if (path.starts_with(prefix) && path.find('/', prefix.size()) == std::string::npos)
-                names.push_back(path.substr(prefix.size()));
-        }
-        return names;
+        return entries(folder, false);
     }
 
     Outcome<std::vector<std::string>> listFolders(const std::string& folder) const override
+    {
+        return entries(folder, true);
+    }
+
+private:
+    std::vector<std::string> entries(const std::string& folder, bool folders) const
     {
         std::set<std::string> names;
         const std::string prefix = plain(folder + "/");
         for (const auto& [path, bytes] : files) {
             const std::size_t end = path.find('/', prefix.size());
-            if (path.starts_with(prefix) && end != std::string::npos)
+            if (path.starts_with(prefix) && (end != std::string::npos) == folders)
                 names.insert(path.substr(prefix.size(), end - prefix.size()));
         }
-        return std::vector<std::string>(names.begin(), names.end());
+        return {names.begin(), names.end()};
     }
 
-private:
     static std::string plain(const std::string& path)
     {
         std::string result;

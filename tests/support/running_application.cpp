@@ -53,17 +53,12 @@ void RunningApplication::start(const std::function<void(QWidget&)>& atChooser)
         throw std::runtime_error("the main window does not become active");
 }
 
-void RunningApplication::storeSettings(const EditorSettings& settings)
-{
-    file("/program/Kitwright.cfg") = encodeSettings(settings, windows1250());
-}
-
 void RunningApplication::startWith(const std::string& languageFile)
 {
     EditorSettings settings;
     settings.PboFolder = "/packed";
     settings.LanguageFile = languageFile;
-    storeSettings(settings);
+    file("/program/Kitwright.cfg") = encodeSettings(settings, windows1250());
     start();
 }
 

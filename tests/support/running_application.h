@@ -17,11 +17,11 @@ namespace kitwright::testing {
 /// Notes what it is asked to start, and starts nothing.
 class RecordingLauncher final : public ProgramLauncher {
 public:
-    std::vector<std::pair<std::string, std::string>> started; ///< Program and argument.
+    std::string log; ///< A line for each: the program and, in brackets, its argument.
 
     Failure start(const std::string& program, const std::string& argument) override
     {
-        started.emplace_back(program, argument);
+        log += "start " + program + " [" + argument + "]\n";
         return {};
     }
 };
@@ -41,9 +41,6 @@ public:
     /// Ends the program if it runs, starts it anew on the same files and shows its main window. `atChooser` gets the
     /// language chooser of a first start, which is closed after it.
     void start(const std::function<void(QWidget&)>& atChooser = [](QWidget&) {});
-
-    /// Lays down a settings file, so that the next start asks for no language.
-    void storeSettings(const EditorSettings& settings);
 
     /// Starts with default settings and the language of a file.
     void startWith(const std::string& languageFile = {});

@@ -5,7 +5,9 @@
 
 #include "app/colouring.h"
 
+#include <algorithm>
 #include <limits>
+#include <optional>
 
 namespace kitwright::testing {
 
@@ -15,18 +17,16 @@ constexpr char plain = ' ';
 
 char letterOf(const TextStyle& style, const EditorSettings& settings)
 {
-    if (style == TextStyle{})
-        return plain;
-    if (style == commentStyle(settings))
-        return 'K';
-    if (style == oldStyle)
-        return 'O';
-    constexpr char letters[] = {'C', 'L', 'N'};
-    for (const int keywordClass : {1, 2, 3}) {
-        if (style == keywordStyle(static_cast<KeywordClass>(keywordClass), settings))
-            return letters[keywordClass - 1];
-    }
-    return '?';
+    const std::pair<std::optional<TextStyle>, char> letters[] = {
+        {TextStyle{}, plain},
+        {commentStyle(settings), 'K'},
+        {oldStyle, 'O'},
+        {keywordStyle(KeywordClass::ConfigCommand, settings), 'C'},
+        {keywordStyle(KeywordClass::CLanguageWord, settings), 'L'},
+        {keywordStyle(KeywordClass::ClassName, settings), 'N'}};
+    const auto is = [&](const auto& known) { return known.first == style; };
+    const auto* found = std::find_if(std::begin(letters), std::end(letters), is);
+    return found == std::end(letters) ? '?' : found->second;
 }
 
 std::string render(const RichTextBox& box, Position from, Position caret, const EditorSettings& settings)

@@ -3,6 +3,8 @@
 
 #include "tools/colour_text.h"
 
+#include "support/scenario.h"
+
 #include <gtest/gtest.h>
 
 namespace kitwright {
@@ -21,20 +23,8 @@ TEST(ColourText, ScalesEachComponentByFourThousandths)
 
 TEST(ColourText, WritesNumbersPlainlyWithAtMostFifteenDigits)
 {
-    const std::pair<double, std::string> cases[] = {{12.5 / 100, "0.125"},
-                                                    {100 / 100.0, "1.0"},
-                                                    {0.1 + 0.2, "0.3"},
-                                                    {0.99999999999999994, "1.0"},
-                                                    {-0.0, "0.0"},
-                                                    {0.001 / 100, "0.00001"},
-                                                    {2.0 / 3, "0.666666666666667"},
-                                                    {1e-15, "0.000000000000001"},
-                                                    {1e-16, "0.0"},
-                                                    {1e-320, "0.0"},
-                                                    {1234.5, "1234.5"},
-                                                    {1e20, "100000000000000000000.0"}};
-    for (const auto& [number, expected] : cases)
-        EXPECT_EQ(numberText(number), expected) << number;
+    for (const auto& [number, expected] : testing::scenarioTable<2>("tables/numbers.txt"))
+        EXPECT_EQ(numberText(std::strtod(number.c_str(), nullptr)), expected) << number;
 }
 
 } // namespace kitwright
