@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/colouring.h"
+
 #include "app/live_colouring.h"
 #include "platform/scintilla_control.h"
 #include "platform/scintilla_text_box.h"
@@ -273,8 +274,10 @@ int main(int argc, char** argv)
         {
             {"the control's own lexer / full pass", "ownLexer", "fullPass", 3, true},
             {"full pass / setting the styles alone", "fullPass", "setStylingAlone", 2.5, false},
-            {"full pass on a coloured document / setting the styles alone", "fullPassAgain", "setStylingAlone", 2.5, false},
-            {"full pass with new colours / setting the styles alone", "fullPassNewColours", "setStylingAlone", 2.5, false},
+            {"full pass on a coloured document / setting the styles alone", "fullPassAgain", "setStylingAlone", 2.5,
+             false},
+            {"full pass with new colours / setting the styles alone", "fullPassNewColours", "setStylingAlone", 2.5,
+             false},
             {"QSyntaxHighlighter / full pass", "syntaxHighlighter", "fullPass", 10, true},
             {"keystroke in 11 MB / in 10 kB", "keystrokeLarge", "keystrokeSmall", 1.2, false},
             {"look-up among 10,000 keywords / among 100", "lookUpIn10000", "lookUpIn100", 3, false},

@@ -86,9 +86,9 @@ Start quickest(const QString& language)
 
 void print(const char* what, const Start& parts, double whole)
 {
-    std::printf("%-16s main window %5.1f %%, data and windows %5.1f %%, first paint %5.1f %%, in all %6.1f ms\n", what,
-                100 * parts.mainWindow / whole, 100 * parts.dataAndWindows / whole, 100 * parts.firstPaint / whole,
-                1000 * parts.whole());
+    std::printf("%-16s main window %5.1f %%, data and windows %5.1f %%, first paint %5.1f %%, in all %6.1f ms\n",
+                what, 100 * parts.mainWindow / whole, 100 * parts.dataAndWindows / whole,
+                100 * parts.firstPaint / whole, 1000 * parts.whole());
 }
 
 } // namespace

@@ -166,10 +166,11 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
-    return bench::runAndCompare(argc, argv,
-                                {
-                                    {"OK with 1,000 classes of 100 properties / a full pass over the result",
-                                     "ok1000Classes", "passOver1000Classes", 6, false},
-                                    {"OK with 2,000 classes / with 1,000", "ok2000Classes", "ok1000Classes", 2.5, false},
-                                });
+    return bench::runAndCompare(
+        argc, argv,
+        {
+            {"OK with 1,000 classes of 100 properties / a full pass over the result", "ok1000Classes",
+             "passOver1000Classes", 6, false},
+            {"OK with 2,000 classes / with 1,000", "ok2000Classes", "ok1000Classes", 2.5, false},
+        });
 }

@@ -53,7 +53,8 @@ void BraceMatcher::start()
 /// Makes the character at a position the brace whose partner is searched; false when it is none.
 bool BraceMatcher::takeBraceAt(long position)
 {
-    const auto character = static_cast<char>(m_editor.SendScintilla(Sci::SCI_GETCHARAT, static_cast<unsigned long>(position)));
+    const auto character =
+        static_cast<char>(m_editor.SendScintilla(Sci::SCI_GETCHARAT, static_cast<unsigned long>(position)));
     if (character == '\0')
         return false;
     const std::size_t opens = opening.find(character);
@@ -75,8 +76,8 @@ void BraceMatcher::searchOn()
             mark(-1);
             return;
         }
-        const auto character
-            = static_cast<char>(m_editor.SendScintilla(Sci::SCI_GETCHARAT, static_cast<unsigned long>(m_position)));
+        const auto character =
+            static_cast<char>(m_editor.SendScintilla(Sci::SCI_GETCHARAT, static_cast<unsigned long>(m_position)));
         if (character == m_own)
             ++m_depth;
         else if (character == m_partner && --m_depth == 0) {

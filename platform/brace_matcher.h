@@ -27,9 +27,9 @@ private:
 
     QsciScintilla& m_editor;
     QTimer m_next;
-    long m_brace = -1;    ///< Position of the brace beside the caret, or -1.
-    long m_position = 0;  ///< Where the search has got to.
-    int m_step = 1;       ///< 1 forwards, -1 backwards.
+    long m_brace = -1;   ///< Position of the brace beside the caret, or -1.
+    long m_position = 0; ///< Where the search has got to.
+    int m_step = 1;      ///< 1 forwards, -1 backwards.
     int m_depth = 0;
     char m_own = 0;
     char m_partner = 0;

@@ -15,16 +15,40 @@ namespace {
 std::string_view plainForm(char32_t codePoint)
 {
     switch (codePoint) {
-    case 0x2010: case 0x2011: case 0x2012: case 0x2013: case 0x2014: case 0x2015: case 0x2212:
+    case 0x2010:
+    case 0x2011:
+    case 0x2012:
+    case 0x2013:
+    case 0x2014:
+    case 0x2015:
+    case 0x2212:
         return "-";
-    case 0x2018: case 0x2019: case 0x201A: case 0x201B: case 0x2032:
+    case 0x2018:
+    case 0x2019:
+    case 0x201A:
+    case 0x201B:
+    case 0x2032:
         return "'";
-    case 0x201C: case 0x201D: case 0x201E: case 0x201F: case 0x2033:
+    case 0x201C:
+    case 0x201D:
+    case 0x201E:
+    case 0x201F:
+    case 0x2033:
         return "\"";
     case 0x2026:
         return "...";
-    case 0x2000: case 0x2001: case 0x2002: case 0x2003: case 0x2004: case 0x2005: case 0x2006: case 0x2007:
-    case 0x2008: case 0x2009: case 0x200A: case 0x202F:
+    case 0x2000:
+    case 0x2001:
+    case 0x2002:
+    case 0x2003:
+    case 0x2004:
+    case 0x2005:
+    case 0x2006:
+    case 0x2007:
+    case 0x2008:
+    case 0x2009:
+    case 0x200A:
+    case 0x202F:
         return " ";
     default:
         return {};

@@ -9,7 +9,6 @@
 #include <QLineEdit>
 #include <QShortcut>
 #include <QToolButton>
-
 #include <Qsci/qsciscintilla.h>
 
 namespace kitwright {
@@ -104,8 +103,8 @@ void FindBar::find(bool forward)
     } else {
         m_editor.getCursorPosition(&line, &column);
     }
-    const bool found = m_editor.findFirst(m_text->text(), asRegularExpression, matchCase, wholeWord, goRound, forward,
-                                          line, column);
+    const bool found = m_editor.findFirst(m_text->text(), asRegularExpression, matchCase, wholeWord, goRound,
+                                          forward, line, column);
     QPalette colours;
     if (!found)
         colours.setColor(QPalette::Base, QColor(0xFF, 0xDD, 0xDD));

@@ -12,8 +12,9 @@
 #include <QSaveFile>
 
 #ifdef Q_OS_UNIX
-#include <cerrno>
 #include <sys/stat.h>
+
+#include <cerrno>
 #include <unistd.h>
 #endif
 

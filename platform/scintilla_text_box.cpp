@@ -18,7 +18,8 @@ namespace {
 using Sci = QsciScintillaBase;
 
 /// The changes that the box hears of: all of them are about to happen. Styling is not among them.
-constexpr unsigned long heardChanges = Sci::SC_MOD_INSERTCHECK | Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE;
+constexpr unsigned long heardChanges =
+    Sci::SC_MOD_INSERTCHECK | Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE;
 
 /// With these the control tells assistive technology what changed, counting characters from the start of the text:
 /// a cost that grows with the document, to be paid only where somebody listens.
@@ -34,7 +35,9 @@ unsigned long wide(Position position)
 } // namespace
 
 ScintillaTextBox::ScintillaTextBox(ScintillaControl& control, const CodePage& codePage)
-    : m_control(control), m_codePage(codePage), m_styles(control)
+    : m_control(control),
+      m_codePage(codePage),
+      m_styles(control)
 {
     m_control.setCodePage(codePage);
     m_styles.define();
@@ -68,7 +71,8 @@ Position ScintillaTextBox::length() const
 
 std::string_view ScintillaTextBox::text() const
 {
-    const auto* characters = static_cast<const char*>(m_control.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
+    const auto* characters =
+        static_cast<const char*>(m_control.SendScintillaPtrResult(Sci::SCI_GETCHARACTERPOINTER));
     return {characters, length()};
 }
 
@@ -82,8 +86,8 @@ std::string_view ScintillaTextBox::range(Position start, Position length) const
     const Selection part = cut(start, length);
     if (part.length == 0)
         return {};
-    const auto* characters = reinterpret_cast<const char*>(m_control.SendScintilla(
-        Sci::SCI_GETRANGEPOINTER, wide(part.start), static_cast<long>(part.length)));
+    const auto* characters = reinterpret_cast<const char*>(
+        m_control.SendScintilla(Sci::SCI_GETRANGEPOINTER, wide(part.start), static_cast<long>(part.length)));
     return {characters, part.length};
 }
 
@@ -152,7 +156,8 @@ void ScintillaTextBox::replaceRange(Position start, Position length, std::string
     const auto oldAnchor = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETANCHOR));
     {
         const UndoStep step(*this);
-        m_control.SendScintilla(Sci::SCI_SETTARGETRANGE, wide(part.start), static_cast<long>(part.start + part.length));
+        m_control.SendScintilla(Sci::SCI_SETTARGETRANGE, wide(part.start),
+                                static_cast<long>(part.start + part.length));
         replaceTarget(text);
     }
     const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));

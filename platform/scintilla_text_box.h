@@ -64,12 +64,12 @@ private:
     const CodePage& m_codePage;
     StyleNumbers m_styles;
     TextObserver* m_observer = nullptr;
-    bool m_changed = false;     ///< A change waits for the observer's answer.
-    bool m_undoRedo = false;    ///< The waiting change came from the undo history.
-    bool m_answering = false;   ///< The observer is at work; its edits are no changes to answer.
-    bool m_joined = false;      ///< An undo step is open that the answer shall belong to.
+    bool m_changed = false;   ///< A change waits for the observer's answer.
+    bool m_undoRedo = false;  ///< The waiting change came from the undo history.
+    bool m_answering = false; ///< The observer is at work; its edits are no changes to answer.
+    bool m_joined = false;    ///< An undo step is open that the answer shall belong to.
     bool m_settleQueued = false;
-    int m_lines = 1;            ///< Lines that the widget last told of.
+    int m_lines = 1; ///< Lines that the widget last told of.
 };
 
 } // namespace kitwright

@@ -48,7 +48,8 @@ std::vector<std::string_view> dataLines(std::string_view text)
 
 bool hasOnlyCrLf(std::string_view text)
 {
-    for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos; i = text.find_first_of("\r\n", i + 2)) {
+    for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos;
+         i = text.find_first_of("\r\n", i + 2)) {
         if (text.substr(i, 2) != "\r\n")
             return false;
     }

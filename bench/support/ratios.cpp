@@ -21,8 +21,9 @@ void Times::ReportRuns(const std::vector<Run>& runs)
     for (const Run& run : runs) {
         if (run.error_occurred || run.run_type != Run::RT_Iteration)
             continue;
-        const double nanoseconds
-            = (run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime()) * 1e9 / benchmark::GetTimeUnitMultiplier(run.time_unit);
+        const double nanoseconds =
+            (run.run_name.time_type.empty() ? run.GetAdjustedCPUTime() : run.GetAdjustedRealTime()) * 1e9
+            / benchmark::GetTimeUnitMultiplier(run.time_unit);
         const auto known = m_times.find(run.run_name.function_name);
         if (known == m_times.end())
             m_times.emplace(run.run_name.function_name, nanoseconds);
@@ -61,8 +62,8 @@ int runAndCompare(int argc, char** argv, const std::vector<Ratio>& ratios)
         const bool good = ratio.limit <= 0 || (ratio.atLeast ? seen >= ratio.limit : seen <= ratio.limit);
         kept = kept && good;
         if (ratio.limit > 0)
-            std::printf("%-66s %8.2f  %s %.2f%s\n", ratio.what.c_str(), seen, ratio.atLeast ? ">=" : "<=",
-                        ratio.limit, good ? "" : "  BROKEN");
+            std::printf("%-66s %8.2f  %s %.2f%s\n", ratio.what.c_str(), seen,
+                        ratio.atLeast ? ">=" : "<=", ratio.limit, good ? "" : "  BROKEN");
         else
             std::printf("%-66s %8.2f  -\n", ratio.what.c_str(), seen);
     }

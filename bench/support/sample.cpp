@@ -15,12 +15,17 @@ std::string sampleConfig(std::size_t bytes)
     for (int number = 1; text.size() < bytes; ++number) {
         const std::string name = "Bench" + std::to_string(number);
         text += "\r\nclass CfgVehicles\r\n{\r\n   // Vozidlo číslo " + std::to_string(number)
-                + ", příklad poznámky s háčky\r\n   class " + name + ": Car\r\n   {\r\n"
-                  "      scope = 2 ;\r\n      side = 1 ;\r\n      displayName = \"Těžké vozidlo " + name + "\";\r\n"
-                  "      model = \"\\Bench\\" + name + ".p3d\";\r\n      maxSpeed = 90 ; // km/h\r\n"
-                  "      armor = 50 ;\r\n      weapons[] = {\"M16\", \"HandGrenade\"};\r\n"
-                  "      class Turret\r\n      {\r\n         gunAxis = \"osa hlavne\";\r\n"
-                  "         minElev = -5 ;\r\n         maxElev = 60 ;\r\n      };\r\n   };\r\n};\r\n";
+              + ", příklad poznámky s háčky\r\n   class " + name
+              + ": Car\r\n   {\r\n"
+                "      scope = 2 ;\r\n      side = 1 ;\r\n      displayName = \"Těžké vozidlo "
+              + name
+              + "\";\r\n"
+                "      model = \"\\Bench\\"
+              + name
+              + ".p3d\";\r\n      maxSpeed = 90 ; // km/h\r\n"
+                "      armor = 50 ;\r\n      weapons[] = {\"M16\", \"HandGrenade\"};\r\n"
+                "      class Turret\r\n      {\r\n         gunAxis = \"osa hlavne\";\r\n"
+                "         minElev = -5 ;\r\n         maxElev = 60 ;\r\n      };\r\n   };\r\n};\r\n";
     }
     return text;
 }
