@@ -13,10 +13,10 @@ namespace {
 /// Entries of the palette of a full pass.
 enum Paint : char { Plain, ConfigCommand, CLanguageWord, ClassName, Comment };
 
-/// Where a word may end or a comment may begin; every other byte is skipped.
-constexpr std::array<bool, 256> isNotable = [] {
+/// Where a word ends.
+constexpr std::array<bool, 256> isDelimiter = [] {
     std::array<bool, 256> table{};
-    for (const char character : {' ', '\r', '\n', '/'})
+    for (const char character : {' ', '\r', '\n'})
         table[static_cast<unsigned char>(character)] = true;
     return table;
 }();
@@ -34,18 +34,17 @@ public:
         const Position end = m_text.size();
         for (Position i = 0; i < end;) {
             const char character = m_text[i];
-            if (!isNotable[static_cast<unsigned char>(character)]) {
-                ++i;
-            } else if (character != '/') {
-                word(wordStart, i);
-                wordStart = ++i;
-            } else if (i + 1 < end && m_text[i + 1] == '/') {
+            if (character == '/' && i + 1 < end && m_text[i + 1] == '/') {
                 paint(wordStart, i, StyleMap::keep);
                 i = comment(i);
                 wordStart = i;
-            } else {
-                ++i;
+                continue;
             }
+            if (isDelimiter[static_cast<unsigned char>(character)]) {
+                word(wordStart, i);
+                wordStart = i + 1;
+            }
+            ++i;
         }
         paint(wordStart, end, StyleMap::keep);
     }

@@ -53,7 +53,7 @@ FindBar::FindBar(QsciScintilla& editor) : QFrame(&editor), m_editor(editor), m_t
     m_text->installEventFilter(this);
     m_editor.installEventFilter(this);
 
-    const auto key = [this](QKeySequence keys, auto action) {
+    const auto key = [this](const QKeySequence& keys, auto action) {
         auto* shortcut = new QShortcut(keys, &m_editor);
         shortcut->setContext(Qt::WidgetWithChildrenShortcut);
         connect(shortcut, &QShortcut::activated, this, action);

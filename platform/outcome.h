@@ -16,8 +16,8 @@ using Failure = std::optional<std::string>;
 template <class Value>
 class Outcome {
 public:
-    Outcome(Value value)
-        : m_value(std::move(value)) {} // NOLINT(google-explicit-constructor): a value is an outcome
+    /// A value is an outcome.
+    Outcome(Value value) : m_value(std::move(value)) {} // NOLINT(google-explicit-constructor)
 
     static Outcome failed(const std::string& reason)
     {

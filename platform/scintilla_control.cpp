@@ -98,7 +98,7 @@ QByteArray ScintillaControl::fromMimeData(const QMimeData* source, bool& rectang
 }
 
 /// The text without what the code page lacks.
-std::string ScintillaControl::keepable(std::string text) const
+std::string ScintillaControl::keepable(const std::string& text) const
 {
     return m_codePage && !m_codePage->holds(text) ? m_codePage->keepable(text) : text;
 }

@@ -44,7 +44,7 @@ protected:
     QByteArray fromMimeData(const QMimeData* source, bool& rectangular) const override;
 
 private:
-    std::string keepable(std::string text) const;
+    std::string keepable(const std::string& text) const;
 
     const CodePage* m_codePage = nullptr;
     bool m_composing = false;
