@@ -6,10 +6,12 @@
 #include "platform/qt_text.h"
 #include "platform/write_in_place.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
+
+#include <filesystem>
+#include <system_error>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
@@ -134,17 +136,35 @@ bool isSameFile(const QString& left, const QString& right)
     return !target.isEmpty() && QFileInfo(left).canonicalFilePath() == target;
 }
 
-Outcome<std::vector<std::string>> list(const std::string& folder, QDir::Filters filters, QDir::SortFlags sorting)
+/// The names of those entries of a folder that are wanted, in the order in which the system lists them.
+template <class Wanted>
+Outcome<QStringList> list(const std::string& folder, const Wanted& wanted)
+{
+    const QFileInfo info(nativePath(folder));
+    if (!info.isDir() || !info.isReadable() || !info.isExecutable())
+        return Outcome<QStringList>::failed(
+            reason(info.filePath(), QStringLiteral("not a folder that can be read")));
+    QStringList names;
+    std::error_code error;
+    using Entries = std::filesystem::directory_iterator;
+    for (Entries entry(info.filesystemFilePath(), error); !error && entry != Entries(); entry.increment(error)) {
+        if (const QFileInfo found(entry->path()); wanted(found))
+            names << found.fileName();
+    }
+    if (error)
+        return Outcome<QStringList>::failed(reason(info.filePath(), QString::fromStdString(error.message())));
+    return names;
+}
+
+Outcome<std::vector<std::string>> utf8Names(const Outcome<QStringList>& names)
 {
     using Names = Outcome<std::vector<std::string>>;
-    const QString path = nativePath(folder);
-    const QFileInfo info(path);
-    if (!info.isDir() || !info.isReadable() || !info.isExecutable())
-        return Names::failed(reason(path, QStringLiteral("not a folder that can be read")));
-    std::vector<std::string> names;
-    for (const QString& name : QDir(path).entryList(filters, sorting))
-        names.push_back(fromQt(name));
-    return names;
+    if (!names)
+        return Names::failed(names.reason());
+    std::vector<std::string> result;
+    for (const QString& name : *names)
+        result.push_back(fromQt(name));
+    return result;
 }
 
 } // namespace
@@ -196,6 +216,10 @@ Failure QtFileSystem::copyFile(const std::string& from, const std::string& to)
         return reason(source, QStringLiteral("not a file"));
     if (isSameFile(source, target))
         return {};
+    if (onlyInPlace(linkTarget(target))) {
+        const Outcome<std::string> bytes = readBytes(from);
+        return bytes ? writeBytes(to, *bytes) : Failure(bytes.reason());
+    }
     QFile file(source);
     if (!file.open(QIODevice::ReadOnly))
         return reason(source, file.errorString());
@@ -204,12 +228,16 @@ Failure QtFileSystem::copyFile(const std::string& from, const std::string& to)
 
 Outcome<std::vector<std::string>> QtFileSystem::listFiles(const std::string& folder) const
 {
-    return list(folder, QDir::Files | QDir::Hidden, QDir::Unsorted);
+    return utf8Names(list(folder, [](const QFileInfo& entry) { return entry.isFile(); }));
 }
 
 Outcome<std::vector<std::string>> QtFileSystem::listFolders(const std::string& folder) const
 {
-    return list(folder, QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name | QDir::IgnoreCase);
+    Outcome<QStringList> names =
+        list(folder, [](const QFileInfo& entry) { return entry.isDir() && !entry.isHidden(); });
+    if (names)
+        (*names).sort(Qt::CaseInsensitive);
+    return utf8Names(names);
 }
 
 } // namespace kitwright

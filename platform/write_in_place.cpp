@@ -18,35 +18,49 @@ namespace {
 QString claimRoom([[maybe_unused]] QFile& file, [[maybe_unused]] qint64 size)
 {
 #ifdef Q_OS_UNIX
-    const qint64 oldSize = file.size();
-    if (size > oldSize) {
+    if (size > file.size()) {
         const int error = ::posix_fallocate(file.handle(), 0, size);
-        if (error != 0 && error != EOPNOTSUPP && error != EINVAL) {
-            file.resize(oldSize);
+        if (error != 0 && error != EOPNOTSUPP && error != EINVAL)
             return qt_error_string(error);
-        }
     }
 #endif
     return {};
 }
 
-} // namespace
-
-QString writeInPlace(const QString& path, std::string_view bytes)
+/// Makes the bytes all that the file holds; an error text, empty on success.
+QString fill(QFile& file, std::string_view bytes)
 {
     const auto size = static_cast<qint64>(bytes.size());
-    QFile file(path);
-    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    if (!file.seek(0))
         return file.errorString();
-    if (QString error = claimRoom(file, size); !error.isEmpty())
-        return error;
     for (qint64 written = 0; written < size;) {
         const qint64 step = file.write(bytes.data() + written, size - written);
         if (step <= 0)
             return file.errorString();
         written += step;
     }
-    return file.resize(size) ? QString() : file.errorString();
+    return file.size() == size || file.resize(size) ? QString() : file.errorString();
+}
+
+} // namespace
+
+QString writeInPlace(const QString& path, std::string_view bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+        return file.errorString();
+    const qint64 size = file.size();
+    const QByteArray before = file.readAll();
+    if (before.size() != size)
+        return file.errorString();
+
+    QString error = claimRoom(file, static_cast<qint64>(bytes.size()));
+    if (error.isEmpty())
+        error = fill(file, bytes);
+    // There is room for the old bytes still: what is left of them is in their place.
+    if (!error.isEmpty())
+        fill(file, {before.constData(), static_cast<std::size_t>(size)});
+    return error;
 }
 
 } // namespace kitwright

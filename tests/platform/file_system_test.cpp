@@ -43,12 +43,13 @@ struct Disk : ::testing::Test {
     QtFileSystem files;
 };
 
-/// Saves the versions in turn until it is killed.
-[[noreturn]] void saveForEver(const std::string& path, const std::vector<std::string>& versions)
+/// Saves the versions in turn, and copies each to "copy" beside it, until it is killed.
+[[noreturn]] void saveForEver(const std::string& path, const std::string& copy,
+                              const std::vector<std::string>& versions)
 {
     QtFileSystem files;
     for (std::size_t round = 0;; ++round) {
-        if (files.writeBytes(path, versions[round % versions.size()]))
+        if (files.writeBytes(path, versions[round % versions.size()]) || files.copyFile(path, copy))
             _exit(1);
     }
 }
@@ -142,6 +143,8 @@ TEST_F(Disk, WritesInPlaceWhereTheFolderTakesNoNewFile)
         EXPECT_EQ(files.writeBytes(at("old.txt"), text), Failure());
         EXPECT_EQ(content("old.txt"), text);
     }
+    EXPECT_EQ(files.copyFile(at("theirs.txt"), at("old.txt")), Failure());
+    EXPECT_EQ(content("old.txt"), "theirs");
     EXPECT_TRUE(files.writeBytes(at("theirs.txt"), "mine") && files.writeBytes(at("new.txt"), "new"));
     ASSERT_TRUE(!isRoot || ::setresuid(0, 0, 0) == 0);
     ::chmod(at("").c_str(), 0755);
@@ -162,29 +165,31 @@ TEST_F(Disk, ListsFoldersAndTakesABackslashAsSeparator)
     EXPECT_EQ(*files.readBytes(at("a\\b")), "bears the name as it stands");
 }
 
-TEST_F(Disk, HoldsAnOldOrANewFileWheneverASaveIsKilled)
+TEST_F(Disk, HoldsOldOrNewFilesWheneverASaveOrACopyIsKilled)
 {
     const std::string path = at("config.cpp");
     const std::vector<std::string> versions = {std::string(3'000'000, 'a'), std::string(2'000'000, 'b'), "short"};
     const std::set<std::string> whole(versions.begin(), versions.end());
-    ASSERT_FALSE(files.writeBytes(path, versions.front()));
+    ASSERT_FALSE(files.writeBytes(path, versions.front()) || files.copyFile(path, at("copy")));
 
     constexpr int kills = 200;
-    constexpr int longestLife = 30'000; // µs: several saves
+    constexpr int longestLife = 30'000; // µs: several saves and copies
     std::mt19937 random(20260101);
     for (int kill = 0; kill < kills; ++kill) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0)
-            saveForEver(path, versions);
+            saveForEver(path, at("copy"), versions);
         std::this_thread::sleep_for(std::chrono::microseconds(random() % longestLife));
         ::kill(child, SIGKILL);
         int status = 0;
         waitpid(child, &status, 0);
         ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
-        const auto bytes = files.readBytes(path);
-        ASSERT_TRUE(bytes) << bytes.reason();
-        ASSERT_TRUE(whole.contains(*bytes)) << "torn after kill " << kill << ": " << bytes->size() << " bytes";
+        for (const std::string& name : {path, at("copy")}) {
+            const auto bytes = files.readBytes(name);
+            ASSERT_TRUE(bytes) << bytes.reason();
+            ASSERT_TRUE(whole.contains(*bytes)) << "torn after kill " << kill << ": " << bytes->size();
+        }
     }
 }
 
