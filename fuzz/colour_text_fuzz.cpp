@@ -44,7 +44,9 @@ void tryInput(std::string_view bytes)
     // The largest numbers of all, cut to 15 digits, would round up to what no number can be.
     constexpr double largest = 1e300;
     const std::string_view rest = bytes.substr(std::min<std::size_t>(3, bytes.size()));
-    const double alpha = std::min(std::abs(leadingNumber(rest)), largest);
+    const double any = std::abs(leadingNumber(rest));
+    require(isDecimal(numberText(any)), "any number has digits");
+    const double alpha = std::min(any, largest);
     checkNumber(alpha);
 
     std::string text = colourArrayText(colour, alpha);

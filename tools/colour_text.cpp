@@ -3,8 +3,10 @@
 
 #include "tools/colour_text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <limits>
 
 namespace kitwright {
 
@@ -47,7 +49,8 @@ Digits digitsOf(double number)
 std::string numberText(double number)
 {
     constexpr int lastDecimal = 15;
-    Digits parts = number > 0 ? digitsOf(number) : Digits{"0", 0};
+    constexpr double largest = std::numeric_limits<double>::max(); // What is beyond has no digits.
+    Digits parts = number > 0 ? digitsOf(std::min(number, largest)) : Digits{"0", 0};
     if (parts.exponent < -lastDecimal)
         parts = {"0", 0};
     if (parts.exponent < 0) {
