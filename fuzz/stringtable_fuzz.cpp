@@ -63,24 +63,9 @@ bool takeRow(std::vector<StringEntry>& rows, const StringEntry& entry)
     return true;
 }
 
-/// True when each quote of a file belongs to a quoted field. A stray one may pair up with another once lines of two
-/// files meet; no byte is lost by that, but records read otherwise.
-bool hasOnlyPairedQuotes(const std::string& text)
-{
-    for (const TableRecord& line : tableLines(text)) {
-        for (const std::string& field : line.fields) {
-            if (field.find('"') != field.npos && fieldText(field) == field)
-                return false;
-        }
-    }
-    return true;
-}
-
 /// When the author touched nothing, all that another program wrote into the file stays in it.
 void checkForeignChange(const std::string& text, const std::string& other)
 {
-    if (!hasOnlyPairedQuotes(text) || !hasOnlyPairedQuotes(other))
-        return;
     StringTable table = tableOf(text);
     table.takeInAgain(parseTable(other), parseTable(text));
     const StringTable written = tableOf(table.text());

@@ -34,6 +34,31 @@ void appendLines(std::string& text, std::string_view lines, std::string_view lin
     text += lines;
 }
 
+/// The lines with every open quote of theirs closed.
+std::string settledLines(std::string_view lines)
+{
+    std::string text;
+    for (TableRecord& line : tableLines(lines)) {
+        settleOpenQuotes(line);
+        text += rawText(line);
+    }
+    return text;
+}
+
+/// True when the pieces, one behind the other, read as the same fields as each of them does by itself.
+bool readApart(const std::vector<std::string>& pieces, std::string_view text)
+{
+    const std::vector<TableRecord> together = tableLines(text);
+    auto line = together.begin();
+    for (const std::string& piece : pieces) {
+        for (const TableRecord& single : tableLines(piece)) {
+            if (line == together.end() || (line++)->fields != single.fields)
+                return false;
+        }
+    }
+    return line == together.end();
+}
+
 std::string_view fieldAt(const TableRecord& record, std::size_t field)
 {
     return field < record.fields.size() ? std::string_view(record.fields[field]) : std::string_view();
@@ -102,11 +127,18 @@ void StringTable::setTicked(std::size_t index, bool ticked)
 std::string StringTable::text() const
 {
     const TableHeading written = heading();
-    const std::string lines = linesBehindHeader(written);
+    std::vector<std::string> pieces = piecesBehindHeader(written);
+    std::string lines = joined(pieces);
     if (m_layout.unheaded && *m_layout.unheaded == lines)
         return lines;
-    std::string text = m_layout.preamble + rawText(written.header);
-    appendLines(text, lines, m_layout.lineEnd);
+    pieces.insert(pieces.begin(), m_layout.preamble + rawText(written.header));
+    std::string text = joined(pieces);
+    // Lines meet that no file had side by side: a quote that nothing closed could pair up with one of the other's.
+    if (!readApart(pieces, text)) {
+        for (std::string& piece : pieces)
+            piece = settledLines(piece);
+        text = joined(pieces);
+    }
     return text;
 }
 
@@ -173,15 +205,23 @@ std::vector<std::string> StringTable::textsOf(const TableRecord& record) const
     return texts;
 }
 
-std::string StringTable::linesBehindHeader(const TableHeading& heading) const
+std::vector<std::string> StringTable::piecesBehindHeader(const TableHeading& heading) const
+{
+    std::vector<std::string> pieces;
+    for (const Row& row : StringEntries) {
+        pieces.push_back(row.before);
+        if (row.ticked)
+            pieces.push_back(rawText(recordOf(row, heading)));
+    }
+    pieces.push_back(m_tail);
+    return pieces;
+}
+
+std::string StringTable::joined(const std::vector<std::string>& pieces) const
 {
     std::string lines;
-    for (const Row& row : StringEntries) {
-        appendLines(lines, row.before, m_layout.lineEnd);
-        if (row.ticked)
-            appendLines(lines, rawText(recordOf(row, heading)), m_layout.lineEnd);
-    }
-    appendLines(lines, m_tail, m_layout.lineEnd);
+    for (const std::string& piece : pieces)
+        appendLines(lines, piece, m_layout.lineEnd);
     return lines;
 }
 

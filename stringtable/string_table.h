@@ -82,7 +82,12 @@ private:
     TableHeading heading() const;
     TableRecord recordOf(const Row& row, const TableHeading& heading) const;
     std::vector<std::string> textsOf(const TableRecord& record) const;
-    std::string linesBehindHeader(const TableHeading& heading) const;
+
+    /// The lines behind the header, apart by what they come from: those around the records, and each record.
+    std::vector<std::string> piecesBehindHeader(const TableHeading& heading) const;
+
+    /// The pieces one behind the other, each in lines of its own.
+    std::string joined(const std::vector<std::string>& pieces) const;
 
     void takeInParts(const TableFile& file, const TableFile* former);
     void addFileLanguages(const TableFile& file);
