@@ -26,6 +26,8 @@ public:
     void hold() { ++m_held; }
     void release() { --m_held; }
 
+    /// Foretells whether the word at the end of the edit will be respelled: right for every edit that leaves the caret
+    /// there, as typing does. After any other, a respelling is an undo step of its own.
     bool willEditAfter(const PendingEdit& edit) override;
     void textChanged(ChangeOrigin origin) override;
 
