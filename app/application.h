@@ -7,6 +7,7 @@
 #include "app/keyword_list.h"
 #include "app/main_window.h"
 #include "app/window_supplier.h"
+#include "platform/plain_labels.h"
 #include "services/keyword_tree.h"
 #include "services/shared_state.h"
 #include "wizards/class_record.h"
@@ -63,6 +64,7 @@ private:
     void applyLanguage(const std::string& path);
     std::string chooseFolder();
 
+    PlainLabels m_plainLabels;
     Desktop m_desktop;
     SharedState m_state;
     WizardState m_wizards;

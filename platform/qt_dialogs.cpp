@@ -92,7 +92,6 @@ std::optional<std::uint32_t> QtDialogs::chooseColour()
 void QtDialogs::showMessage(const std::string& text)
 {
     QMessageBox box(QMessageBox::NoIcon, title(), toQt(text), QMessageBox::Ok, QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
     box.exec();
 }
 
@@ -100,7 +99,6 @@ bool QtDialogs::askYesNo(const std::string& question)
 {
     QMessageBox box(QMessageBox::Question, title(), toQt(question), QMessageBox::Yes | QMessageBox::No,
                     QApplication::activeWindow());
-    box.setTextFormat(Qt::PlainText);
     return box.exec() == QMessageBox::Yes;
 }
 

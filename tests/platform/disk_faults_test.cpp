@@ -6,14 +6,14 @@
 #include "platform/write_in_place.h"
 
 #include <QTemporaryDir>
-#include <dirent.h>
-#include <dlfcn.h>
-#include <fcntl.h>
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <cstdarg>
 #include <cstdio>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <unistd.h>
