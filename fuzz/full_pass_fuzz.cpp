@@ -41,7 +41,7 @@ void checkPass(const std::string& text, const KeywordList& keywords)
         require(entry == StyleMap::keep || static_cast<unsigned char>(entry) < pass.styles.palette.size(),
                 "every entry is a style");
 
-    testing::StringTextBox box(text);
+    StringTextBox box(text);
     box.select(text.size() / 2, 1);
     const Selection selected = box.selection();
     colourBox(box, keywords, settings);

@@ -141,7 +141,7 @@ private:
         require(m_seen.contains(m_model), "undo shows only texts that an action made");
     }
 
-    testing::StringTextBox m_box;
+    StringTextBox m_box;
     const KeywordList m_keywords = sampleKeywords();
     EditorSettings m_settings = distinctStyles();
     LiveColouring m_live{m_box, m_keywords, m_settings};

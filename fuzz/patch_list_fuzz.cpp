@@ -15,7 +15,7 @@ namespace {
 /// Watches that an edit only ever puts the item behind a brace of the block.
 class InsertionWatch final : public TextObserver {
 public:
-    explicit InsertionWatch(testing::StringTextBox& box) : m_box(box)
+    explicit InsertionWatch(StringTextBox& box) : m_box(box)
     {
         const std::size_t block = findIgnoringCase(box.text(), "CFGPATCHES");
         m_first = block == std::string_view::npos ? 0 : block;
@@ -40,7 +40,7 @@ public:
     void textChanged(ChangeOrigin) override {}
 
 private:
-    testing::StringTextBox& m_box;
+    StringTextBox& m_box;
     Position m_first = 0;
 };
 
@@ -51,7 +51,7 @@ void tryInput(std::string_view bytes)
 {
     Pieces pieces(bytes);
     const std::string text = pieces.text();
-    testing::StringTextBox box(text);
+    StringTextBox box(text);
     {
         InsertionWatch watch(box);
         while (pieces.areLeft()) {
@@ -68,8 +68,8 @@ void tryInput(std::string_view bytes)
     require(box.text() == text, "undo brings the document back");
 
     // All at once comes to the same as one after the other.
-    testing::StringTextBox together(text);
-    testing::StringTextBox single(text);
+    StringTextBox together(text);
+    StringTextBox single(text);
     const std::vector<std::string> items = {"First", "Second"};
     AddToPatchList(together, "units[]", std::span(items));
     for (const std::string& item : items)

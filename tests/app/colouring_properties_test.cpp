@@ -98,7 +98,7 @@ TEST(FullPassProperties, ColoursByTheRulesChangesOnlyTheCaseOfKeywordsAndNothing
             colourText(std::string_view(embedded).substr(2, text.size()), keywords, settings).styles;
         ASSERT_EQ(styles.entries, ruledEntries(text)) << text;
 
-        testing::StringTextBox box(text);
+        fuzzing::StringTextBox box(text);
         colourBox(box, keywords, settings);
         ASSERT_EQ(upperCased(box.text()), upperCased(text));
         for (Position i = 0; i < text.size(); ++i)
@@ -117,7 +117,7 @@ TEST(LiveStepProperties, StaysInTheTextAndInOneWord)
 {
     Pieces pieces(3);
     for (int round = 0; round < 400; ++round) {
-        const testing::StringTextBox box(pieces.text());
+        const fuzzing::StringTextBox box(pieces.text());
         for (Position caret = 0; caret <= box.length(); ++caret) {
             for (const bool inComment : {false, true}) {
                 const LiveStep step = liveStep(TextView(box), caret, inComment);

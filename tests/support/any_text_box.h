@@ -7,7 +7,7 @@
 #include "platform/scintilla_control.h"
 #include "platform/scintilla_text_box.h"
 #include "platform/windows_1250.h"
-#include "support/string_text_box.h"
+#include "fuzz/support/string_text_box.h"
 
 #include <QTest>
 
@@ -65,7 +65,7 @@ public:
 
 private:
     bool m_isReal;
-    StringTextBox m_standIn;
+    fuzzing::StringTextBox m_standIn;
     ScintillaControl m_control;
     ScintillaTextBox m_real{m_control, windows1250()};
 };

@@ -3,11 +3,11 @@
 
 #pragma once
 
+#include "fuzz/support/string_text_box.h"
 #include "platform/windows_1250.h"
 #include "services/context.h"
 #include "support/fake_dialogs.h"
 #include "support/memory_file_system.h"
-#include "support/string_text_box.h"
 
 #include <deque>
 
@@ -19,7 +19,7 @@ class FakeHost final : public AddonHost {
 public:
     explicit FakeHost(SharedState& state) : m_state(state) {}
 
-    StringTextBox editor;
+    fuzzing::StringTextBox editor;
     KeywordTree classTree;
     std::deque<std::string> savePaths;
     bool saveWorks = true;

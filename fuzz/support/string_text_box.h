@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace kitwright::testing {
+namespace kitwright::fuzzing {
 
 /// A rich-text box over a plain string: what logic is tested and fuzzed with. Undo is kept as whole texts.
 class StringTextBox final : public RichTextBox {
@@ -55,4 +55,4 @@ private:
     TextObserver* m_observer = nullptr;
 };
 
-} // namespace kitwright::testing
+} // namespace kitwright::fuzzing

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/string_text_box.h"
+#include "fuzz/support/string_text_box.h"
 
 #include <algorithm>
 #include <stdexcept>
 
-namespace kitwright::testing {
+namespace kitwright::fuzzing {
 
 namespace {
 
@@ -151,4 +151,4 @@ void StringTextBox::tell(ChangeOrigin origin)
     m_answering = false;
 }
 
-} // namespace kitwright::testing
+} // namespace kitwright::fuzzing
