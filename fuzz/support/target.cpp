@@ -3,8 +3,6 @@
 
 #include "support/target.h"
 
-#include <cstddef>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 
@@ -19,9 +17,3 @@ void require(bool kept, const char* promise)
 }
 
 } // namespace kitwright::fuzzing
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
-{
-    kitwright::fuzzing::tryInput({reinterpret_cast<const char*>(data), size});
-    return 0;
-}
