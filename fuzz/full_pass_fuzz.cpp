@@ -8,6 +8,9 @@
 #include "support/string_text_box.h"
 #include "support/target.h"
 
+#include <algorithm>
+#include <optional>
+
 namespace kitwright::fuzzing {
 
 namespace {
@@ -20,6 +23,43 @@ std::vector<std::string_view> words(std::string_view text)
         const std::size_t end = std::min(text.find_first_of(" \r\n", start), text.size());
         result.push_back(text.substr(start, end - start));
         start = end + 1;
+    }
+    return result;
+}
+
+/// The style of each byte of a text; nothing for one that keeps what it has.
+using Styles = std::vector<std::optional<TextStyle>>;
+
+/// The styles that a full pass gives, by the letter of the rules: one character after the other.
+Styles ruledStyles(std::string_view text, const KeywordList& keywords, const EditorSettings& settings)
+{
+    Styles result(text.size());
+    std::size_t wordStart = 0;
+    bool comment = false;
+    for (std::size_t place = 0; place < text.size(); ++place) {
+        comment = comment || text.substr(place, 2) == "//";
+        if (comment) {
+            result[place] = commentStyle(settings);
+            comment = text[place] != '\n';
+            wordStart = place + 1;
+        } else if (text[place] == ' ' || text[place] == '\r' || text[place] == '\n') {
+            const std::string_view word = text.substr(wordStart, place - wordStart);
+            const int found = FindExact(0, keywords.count() - 1, word, keywords);
+            const auto style = found < 0 ? TextStyle{} : keywordStyle(keywords.classAt(found), settings);
+            std::fill_n(result.begin() + static_cast<std::ptrdiff_t>(wordStart), word.size(), style);
+            result[place] = TextStyle{};
+            wordStart = place + 1;
+        }
+    }
+    return result;
+}
+
+Styles givenStyles(const StyleMap& map)
+{
+    Styles result;
+    for (const char entry : map.entries) {
+        const bool keeps = entry == StyleMap::keep;
+        result.push_back(keeps ? std::nullopt : std::optional(map.palette[static_cast<unsigned char>(entry)]));
     }
     return result;
 }
@@ -40,6 +80,11 @@ void checkPass(const std::string& text, const KeywordList& keywords)
     for (const char entry : pass.styles.entries)
         require(entry == StyleMap::keep || static_cast<unsigned char>(entry) < pass.styles.palette.size(),
                 "every entry is a style");
+    require(givenStyles(pass.styles) == ruledStyles(text, keywords, settings), "every style is by the rules");
+    // Neighbours that would show if they were read.
+    const std::string embedded = "//" + text + "/ CLASS ";
+    const FullPass within = colourText(std::string_view(embedded).substr(2, text.size()), keywords, settings);
+    require(within.styles.entries == pass.styles.entries, "nothing around the text is read");
 
     StringTextBox box(text);
     box.select(text.size() / 2, 1);

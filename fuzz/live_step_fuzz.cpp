@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "app/live_step.h"
+
 #include "app/colouring.h"
 #include "app/live_colouring.h"
 #include "services/letter_case.h"
@@ -14,6 +16,47 @@
 namespace kitwright::fuzzing {
 
 namespace {
+
+const KeywordList& keywordsOfAll()
+{
+    static const KeywordList keywords = sampleKeywords();
+    return keywords;
+}
+
+/// Whatever the caret stands behind, a step stays in the text and, when it looks a word up, in that word.
+void checkSteps(const std::string& text)
+{
+    const StringTextBox box(text);
+    for (Position caret = 0; caret <= box.length(); ++caret) {
+        for (const bool inComment : {false, true}) {
+            const LiveStep step = liveStep(TextView(box), caret, inComment);
+            require(step.start + step.length <= box.length(), "a step stays in the text");
+            const std::string_view range = box.range(step.start, step.length);
+            require(step.kind != LiveStep::Kind::Word || range.find_first_of(" \r\n") == range.npos,
+                    "a step stays in one word");
+        }
+    }
+}
+
+/// Once all of it is coloured, nobody sees whether a text was typed or pasted.
+void checkTyping(const std::string& text)
+{
+    const EditorSettings settings = distinctStyles();
+    StringTextBox pasted(text);
+    StringTextBox typed;
+    {
+        LiveColouring live(typed, keywordsOfAll(), settings);
+        live.ColouringEnabled = true;
+        typed.type(text);
+    }
+    require(upperCased(typed.text()) == upperCased(text), "typing changes nothing but letter case");
+    colourBox(typed, keywordsOfAll(), settings);
+    colourBox(pasted, keywordsOfAll(), settings);
+    const StyleMap styles = colourText(text, keywordsOfAll(), settings).styles;
+    for (Position place = 0; place < text.size(); ++place)
+        require(styles.entries[place] == StyleMap::keep || typed.styleAt(place) == pasted.styleAt(place),
+                "what was typed is coloured like what was pasted");
+}
 
 /// An author at work on a document, with a model that knows the text but for letter case.
 class Author {
@@ -142,7 +185,7 @@ private:
     }
 
     StringTextBox m_box;
-    const KeywordList m_keywords = sampleKeywords();
+    const KeywordList& m_keywords = keywordsOfAll();
     EditorSettings m_settings = distinctStyles();
     LiveColouring m_live{m_box, m_keywords, m_settings};
     std::string m_model;
@@ -155,7 +198,14 @@ private:
 void tryInput(std::string_view bytes)
 {
     Pieces pieces(bytes);
-    Author author(pieces.text());
+    const std::string document = pieces.text();
+    // Each caret, and each key, costs a look at the whole text.
+    constexpr std::size_t small = 256;
+    if (document.size() <= small) {
+        checkSteps(document);
+        checkTyping(document);
+    }
+    Author author(document);
     while (pieces.areLeft())
         author.act(pieces.bytes());
     author.undoAll();

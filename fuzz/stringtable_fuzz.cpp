@@ -112,6 +112,26 @@ void checkEdit(const std::string& text, const std::string& typed)
     require(sameBut(before, tableOf(table.text()), before.StringCount(), 0), "a text can be taken back");
 }
 
+/// A field that takes another text leaves the fields around it, and the lines behind its own, as they stand.
+void checkFields(const std::string& text, const std::string& typed)
+{
+    // A line that starts like a record is one, quotes or not.
+    if (typed.find(keyPrefix) != typed.npos)
+        return;
+    const std::string wanted = withCrLf(typed);
+    for (const TableRecord& line : tableLines(text)) {
+        for (std::size_t field = 1; isTableRecord(line) && field < line.fields.size(); ++field) {
+            TableRecord changed = line;
+            settleOpenQuotes(changed);
+            changed.lineEnd = "\r\n";
+            changed.fields[field] = withFieldText(changed.fields[field], wanted);
+            const std::vector<TableRecord> again = tableLines(rawText(changed) + "$STRM_BEHIND,\"x\"\r\n");
+            require(again.size() == 2 && again[0] == changed, "a field's text changes no other field");
+            require(withCrLf(fieldText(again[0].fields[field])) == wanted, "a field says what it was told");
+        }
+    }
+}
+
 /// Whatever meets in a table, keys that the author added there are not lost.
 void checkAdded(const std::string& text, const std::string& typed)
 {
@@ -140,6 +160,7 @@ void tryInput(std::string_view bytes)
     checkUntouched(text, other);
     checkForeignChange(text, other);
     checkEdit(text, other);
+    checkFields(text, other);
     checkAdded(text, other);
 }
 
