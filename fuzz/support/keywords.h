@@ -8,11 +8,12 @@
 
 namespace kitwright::fuzzing {
 
-/// Keywords of every class, one of them beyond ASCII, and one of a class that has no style.
+/// Keywords of every class: `class` and `CfgPatches` of the C language, `requiredVersion` and `units[]` of the config,
+/// the class names `Man` and `Škoda`, and `odd`, whose class number has no style.
 inline KeywordList sampleKeywords()
 {
     KeywordList keywords;
-    keywords.addLines("Man\r\n\u0160koda\r\n", KeywordClass::ClassName);
+    keywords.addLines("Man\r\nŠkoda\r\n", KeywordClass::ClassName);
     keywords.addLines("requiredVersion\r\nunits[]\r\n", KeywordClass::ConfigCommand);
     keywords.addLines("class\r\nCfgPatches\r\n", KeywordClass::CLanguageWord);
     keywords.addLines("odd\r\n", KeywordClass{7});
@@ -25,6 +26,7 @@ inline EditorSettings distinctStyles()
     EditorSettings settings;
     settings.ConfigKeywordItalic = true;
     settings.CommentColor = 0x008000;
+    settings.CommentItalic = true;
     return settings;
 }
 

@@ -3,13 +3,8 @@
 
 #include "app/colouring.h"
 
-#include "support/any_text_box.h"
+#include "coloured_document.h"
 #include "support/running_application.h"
-#include "support/scenario.h"
-#include "support/style_marks.h"
-
-#include <QTest>
-#include <gtest/gtest.h>
 
 namespace kitwright {
 
@@ -18,17 +13,9 @@ namespace {
 using testing::marked;
 using testing::markedText;
 
-/// A full pass over a box of either kind.
-struct FullPassOver : ::testing::TestWithParam<const char*> {
-    testing::AnyTextBox box{GetParam(), {}};
-    KeywordList keywords = testing::sampleKeywords();
-    EditorSettings settings = testing::distinctStyles();
-
-    void colour() { colourBox(*box, keywords, settings); }
+struct FullPassOverADocument : testing::ColouredDocument {
+    void colour() { colourBox(box, keywords, settings); }
 };
-
-INSTANTIATE_TEST_SUITE_P(Boxes, FullPassOver, ::testing::ValuesIn(testing::AnyTextBox::kinds),
-                         [](const auto& box) { return std::string(box.param); });
 
 /// The lines of an add-on, as typed by hand and as a full pass shows them.
 constexpr const char* writtenLines =
@@ -47,46 +34,44 @@ std::string repeated(std::string_view text, int times)
 
 } // namespace
 
-TEST_P(FullPassOver, StylesEveryWordThatABlankEndsAndEveryComment)
+TEST_F(FullPassOverADocument, StylesEveryWordThatABlankEndsAndEveryComment)
 {
     // All of the text has the old style at first, so that what the pass leaves alone shows.
     for (const auto& [before, after] : testing::scenarioTable<2>("tables/full_pass.txt")) {
-        box->loadText(before);
-        box->styleRange(0, box->length(), testing::oldStyle);
+        box.loadText(before);
+        box.styleRange(0, box.length(), testing::oldStyle);
         colour();
-        EXPECT_EQ(markedText(*box), after) << before;
+        EXPECT_EQ(markedText(box), after) << before;
     }
 }
 
-TEST_P(FullPassOver, LeavesTheSelectionAndIsAnUndoStepOnlyWhereItRespells)
+TEST_F(FullPassOverADocument, LeavesTheSelectionAndIsAnUndoStepOnlyWhereItRespells)
 {
-    box.type("CLASS MAN ");
-    const std::string typed(box->text());
-    box->select(2, 5);
+    type("CLASS MAN ");
+    const std::string typed(box.text());
+    box.select(2, 5);
     colour();
-    EXPECT_EQ(marked(*box), "<L:class> <N:M|an> ");
-    EXPECT_EQ(box->selection(), (Selection{2, 5}));
-    box->replaceSelection("y ");
+    EXPECT_EQ(marked(box), "<L:class> <N:M|an> ");
+    EXPECT_EQ(box.selection(), (Selection{2, 5}));
+    box.replaceSelection("y ");
     colour();
     box.undo();
-    EXPECT_EQ(box->text(), "class Man ");
+    EXPECT_EQ(box.text(), "class Man ");
     box.undo();
-    EXPECT_EQ(box->text(), typed);
+    EXPECT_EQ(box.text(), typed);
 }
 
-TEST_P(FullPassOver, ColoursADocumentOfAnyLength)
+TEST_F(FullPassOverADocument, ColoursADocumentOfAnyLength)
 {
     const int times = 1500;
-    box->loadText(repeated(writtenLines, times));
-    ASSERT_GT(box->length(), 100'000U);
+    box.loadText(repeated(writtenLines, times));
+    ASSERT_GT(box.length(), 100'000U);
     colour();
-    EXPECT_TRUE(markedText(*box) == repeated(colouredLines, times));
+    EXPECT_TRUE(markedText(box) == repeated(colouredLines, times));
 }
 
-TEST(FullPassOverTheControl, LeavesTheViewWhereItIs)
+TEST_F(FullPassOverADocument, LeavesTheViewWhereItIs)
 {
-    ScintillaControl control;
-    ScintillaTextBox box(control, windows1250());
     control.resize(300, 200);
     control.show();
     box.loadText(repeated(writtenLines, 100));
@@ -96,7 +81,7 @@ TEST(FullPassOverTheControl, LeavesTheViewWhereItIs)
     for (const unsigned long line : {0UL, 200UL, 450UL}) {
         control.SendScintilla(Sci::SCI_SETFIRSTVISIBLELINE, line);
         box.replaceRange(box.length() - 10, 0, " CLASS ");
-        colourBox(box, testing::sampleKeywords(), testing::distinctStyles());
+        colour();
         EXPECT_EQ(control.SendScintilla(Sci::SCI_GETFIRSTVISIBLELINE), static_cast<long>(line));
         EXPECT_EQ(box.caret(), 3U);
         EXPECT_EQ(control.SendScintilla(Sci::SCI_GETANCHOR), static_cast<long>(last));

@@ -4,11 +4,11 @@
 #include "app/live_colouring.h"
 
 #include "app/colouring.h"
-#include "support/any_text_box.h"
-#include "support/scenario.h"
-#include "support/style_marks.h"
+#include "coloured_document.h"
+#include "fuzz/support/string_text_box.h"
 
-#include <gtest/gtest.h>
+#include <random>
+#include <set>
 
 namespace kitwright {
 
@@ -17,75 +17,69 @@ namespace {
 using testing::marked;
 using testing::markedText;
 
-/// Typing into a box of either kind, coloured live.
-struct Typing : ::testing::TestWithParam<const char*> {
-    testing::AnyTextBox box{GetParam(), {}};
-    KeywordList keywords = testing::sampleKeywords();
-    EditorSettings settings = testing::distinctStyles();
-    LiveColouring live{*box, keywords, settings};
-
+/// Typing into a document, coloured live.
+struct Typing : testing::ColouredDocument {
     Typing() { live.ColouringEnabled = true; }
+
+    LiveColouring live{box, keywords, settings};
 
     /// A document whose caret stands at the "|", all of it in the old style, so that what a step leaves alone shows.
     void open(const std::string& text)
     {
-        testing::loadMarked(*box, text);
-        box->styleRange(0, box->length(), testing::oldStyle);
+        testing::loadMarked(box, text);
+        box.styleRange(0, box.length(), testing::oldStyle);
     }
 
     void typeAt(Position position, std::string_view keys)
     {
-        box->select(position, 0);
-        box.type(keys);
+        box.select(position, 0);
+        type(keys);
     }
 };
 
-INSTANTIATE_TEST_SUITE_P(Boxes, Typing, ::testing::ValuesIn(testing::AnyTextBox::kinds),
-                         [](const auto& box) { return std::string(box.param); });
-
 } // namespace
 
-TEST_P(Typing, StylesTheSampleKeyByKey)
+TEST_F(Typing, StylesTheSampleKeyByKey)
 {
     std::string above;
     Position lineStart = 0;
     for (const auto& [key, line] : testing::scenarioTable<2>("tables/sample_keys.txt")) {
-        box.type(key);
+        type(key);
         if (key == "\r\n") {
-            lineStart = box->length();
-            above = markedText(*box);
+            lineStart = box.length();
+            above = markedText(box);
         }
-        ASSERT_EQ(marked(*box, lineStart), line);
-        ASSERT_TRUE(markedText(*box).starts_with(above)) << line;
+        ASSERT_EQ(marked(box, lineStart), line);
+        ASSERT_TRUE(markedText(box).starts_with(above)) << line;
     }
 }
 
-TEST_P(Typing, RestylesTheWordAroundTheKey)
+TEST_F(Typing, RestylesTheWordAroundTheKey)
 {
     for (const auto& [before, keys, after] : testing::scenarioTable<3>("tables/typing.txt")) {
         open(before);
-        box.type(keys);
-        EXPECT_EQ(marked(*box), after) << before << " " << keys;
+        type(keys);
+        EXPECT_EQ(marked(box), after) << before << " " << keys;
         typeAt(0, "z"); // Out of any comment.
     }
 }
 
-TEST_P(Typing, StaysInACommentUntilALineBreakOrTheStartOfTheText)
+TEST_F(Typing, StaysInACommentUntilALineBreakOrTheStartOfTheText)
 {
     for (const auto& [document, position, keys, after] : testing::scenarioTable<4>("tables/comment_typing.txt")) {
         if (!document.empty())
             open(document);
         typeAt(std::stoul(position), keys);
-        EXPECT_EQ(marked(*box), after);
+        EXPECT_EQ(marked(box), after);
     }
 }
 
-TEST_P(Typing, RestsWhileColouringIsOffOrHeld)
+TEST_F(Typing, RestsWhileColouringIsOffOrHeld)
 {
     const auto typed = [&] {
         open("x MA|");
-        box.type("N //b");
-        return marked(*box);
+        type("N //b");
+        return marked(box);
     };
     const std::string untouched = "<O:x MA>N //b|";
     settings.KeywordColouringOff = true;
@@ -100,16 +94,53 @@ TEST_P(Typing, RestsWhileColouringIsOffOrHeld)
     EXPECT_EQ(typed(), "<O:x ><N:Man> <K://b|>");
 }
 
-TEST_P(Typing, ShowsChangedSettingsInTheWordThatIsTypedInto)
+TEST_F(Typing, ShowsChangedSettingsInTheWordThatIsTypedInto)
 {
     open("x class class Man |");
-    colourBox(*box, keywords, settings);
+    colourBox(box, keywords, settings);
     const EditorSettings before = settings;
     settings.CKeywordColor = 0x010101;
     settings.ClassNameBold = false;
     typeAt(2, "y");
-    EXPECT_EQ(marked(*box, 0, before), "x y|<?:class> <L:class> <N:Man> ");
-    EXPECT_EQ(marked(*box, 0, settings), "x y|<L:class> <?:class> <?:Man> ");
+    EXPECT_EQ(marked(box, 0, before), "x y|<?:class> <L:class> <N:Man> ");
+    EXPECT_EQ(marked(box, 0, settings), "x y|<L:class> <?:class> <?:Man> ");
+}
+
+/// What the fuzzers know of the box that they type into is true of the control as well.
+TEST_F(Typing, ComesToTheSameInTheBoxOfTheFuzzers)
+{
+    fuzzing::StringTextBox fuzzed;
+    LiveColouring other(fuzzed, keywords, settings);
+    other.ColouringEnabled = true;
+    std::mt19937 random(5);
+    const testing::Cells pieces = testing::scenarioLines("tables/pieces.txt").front();
+    const auto isWhole = [&](Position end) { return windows1250().holds(box.range(0, end)); };
+    for (int round = 0; round < 100; ++round) {
+        box.loadText({});
+        fuzzed.loadText({});
+        for (int number = 0; number < 40; ++number) {
+            const Position start = random() % (box.length() + 1);
+            const Position end = std::min<Position>(start + random() % 4, box.length());
+            if (random() % 4 == 0 && isWhole(start) && isWhole(end)) {
+                box.select(start, end - start);
+                fuzzed.select(start, end - start);
+            }
+            const std::string& keys = pieces[random() % pieces.size()];
+            type(keys);
+            fuzzed.type(keys);
+            ASSERT_EQ(marked(box), marked(fuzzed));
+            ASSERT_EQ(box.selection(), fuzzed.selection());
+        }
+        // The control takes several keys as one undo step; so it may pass over texts, and has none of its own.
+        std::set<std::string> seen{""};
+        for (; fuzzed.undoSteps() > 0; fuzzed.undo())
+            seen.emplace(fuzzed.text());
+        while (control.isUndoAvailable()) {
+            box.undo();
+            ASSERT_TRUE(seen.contains(std::string(box.text()))) << box.text();
+        }
+        ASSERT_EQ(box.text(), "");
+    }
 }
 
 } // namespace kitwright

@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/any_text_box.h"
 #include "support/running_application.h"
 #include "support/scenario.h"
 #include "support/style_marks.h"
+#include "support/typing.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>

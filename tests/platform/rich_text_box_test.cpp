@@ -1,145 +1,125 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/any_text_box.h"
+#include "fuzz/support/string_text_box.h"
+#include "platform/scintilla_control.h"
+#include "platform/scintilla_text_box.h"
+#include "platform/windows_1250.h"
 #include "support/scenario.h"
+#include "support/typing.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 
-namespace kitwright {
+namespace kitwright::testing {
 namespace {
 
-using namespace std::string_literals;
-using testing::AnyTextBox;
+/// The letters that styles are written with, and "-" for a style that is kept.
+const std::map<char, TextStyle> letters{{'.', {}}, {'r', {0x0000FF, true, false}}, {'b', {0xFF0000, false, true}}};
 
-/// The contract of the interface, kept by the stand-in and by the real control.
-struct TextBox : ::testing::TestWithParam<const char*> {};
-
-INSTANTIATE_TEST_SUITE_P(Boxes, TextBox, ::testing::ValuesIn(AnyTextBox::kinds));
-
-constexpr TextStyle red{0x0000FF, true, false};
-constexpr TextStyle blue{0xFF0000, false, true};
-
-/// One letter for the style of each byte: "." plain, "r" red, "b" blue.
-std::string styles(const RichTextBox& box)
-{
-    std::string marks;
-    for (Position i = 0; i < box.length(); ++i) {
-        const TextStyle style = box.styleAt(i);
-        marks += style == red ? 'r' : style == blue ? 'b' : style == TextStyle{} ? '.' : '?';
+/// Works on a box step by step, and looks at what becomes of it.
+class Work final : TextObserver {
+public:
+    Work(RichTextBox& box, std::function<void()> undo) : m_box(box), m_undo(std::move(undo))
+    {
+        m_box.setObserver(this);
     }
-    return marks;
-}
+    ~Work() override { m_box.setObserver(nullptr); }
+    Work(const Work&) = delete;
+    Work& operator=(const Work&) = delete;
 
-struct Observer : TextObserver {
-    bool willEditAfter(const PendingEdit& /*edit*/) override { return joins; }
+    void play(const std::string& file)
+    {
+        for (Cells step : scenarioLines(file)) {
+            SCOPED_TRACE(::testing::PrintToString(step));
+            step.resize(4);
+            m_verbs.at(step[0])(step[1], step[2], step[3]);
+        }
+    }
+
+private:
+    using Text = const std::string&;
+
+    bool willEditAfter(const PendingEdit& /*edit*/) override { return m_joins; }
+
+    /// While an answer is set, it takes the place of the first character.
     void textChanged(ChangeOrigin origin) override
     {
-        heard += origin == ChangeOrigin::Edit ? 'e' : 'u';
-        answer();
+        m_heard += origin == ChangeOrigin::Edit ? 'e' : 'u';
+        if (origin == ChangeOrigin::Edit && !m_answer.empty())
+            m_box.replaceRange(0, 1, m_answer);
     }
 
-    bool joins = false;
-    std::function<void()> answer = [] {};
-    std::string heard; ///< "e" for each edit, "u" for undo.
+    std::string textWithSelection() const
+    {
+        std::string text(m_box.text());
+        text.insert(m_box.caret(), "|");
+        return m_box.selection().length == 0 ? text : text.insert(m_box.selection().start, "[");
+    }
+
+    std::string styles() const
+    {
+        std::string marks(m_box.length(), '?');
+        for (Position i = 0; i < m_box.length(); ++i) {
+            for (const auto& [letter, style] : letters)
+                marks[i] = m_box.styleAt(i) == style ? letter : marks[i];
+        }
+        return marks;
+    }
+
+    void styleAll(Text marks)
+    {
+        StyleMap map;
+        for (const char mark : marks) {
+            map.entries += mark == '-' ? StyleMap::keep : static_cast<char>(map.palette.size());
+            map.palette.push_back(mark == '-' ? TextStyle{} : letters.at(mark));
+        }
+        m_box.styleAll(map);
+    }
+
+    static Position number(Text text) { return std::stoul(text); }
+
+    const std::map<std::string, std::function<void(Text, Text, Text)>> m_verbs{
+        {"load", [this](Text text, Text, Text) { loadMarked(m_box, text); }},
+        {"set", [this](Text text, Text, Text) { m_box.setText(text); }},
+        {"select", [this](Text start, Text length, Text) { m_box.select(number(start), number(length)); }},
+        {"put", [this](Text text, Text, Text) { m_box.replaceSelection(text); }},
+        {"replace", [this](Text at, Text size, Text by) { m_box.replaceRange(number(at), number(size), by); }},
+        {"undo", [this](Text, Text, Text) { m_undo(); }},
+        {"begin", [this](Text, Text, Text) { m_box.beginUndoStep(); }},
+        {"end", [this](Text, Text, Text) { m_box.endUndoStep(); }},
+        {"answer", [this](Text text, Text joined, Text) { m_answer = text, m_joins = joined == "joined"; }},
+        {"style", [this](Text at, Text size,
+                         Text mark) { m_box.styleRange(number(at), number(size), letters.at(mark.at(0))); }},
+        {"paint", [this](Text marks, Text, Text) { styleAll(marks); }},
+        {"see", [this](Text text, Text, Text) { EXPECT_EQ(textWithSelection(), text); }},
+        {"read", [this](Text at, Text size, Text text) { EXPECT_EQ(m_box.range(number(at), number(size)), text); }},
+        {"byte", [this](Text at, Text byte, Text) { EXPECT_EQ(m_box.at(number(at)), byte.at(0)); }},
+        {"styled", [this](Text marks, Text, Text) { EXPECT_EQ(styles(), marks); }},
+        {"heard", [this](Text changes, Text, Text) { EXPECT_EQ(std::exchange(m_heard, {}), changes); }},
+    };
+
+    RichTextBox& m_box;
+    std::function<void()> m_undo;
+    bool m_joins = false;
+    std::string m_answer;
+    std::string m_heard; ///< "e" for each edit, "u" for undo.
 };
 
-TEST_P(TextBox, LeavesCaretAndSelectionWhereTheyBelong)
+TEST(TextBox, KeepsItsContractInTheControl)
 {
-    for (const auto& [before, start, length, text, after] : testing::scenarioTable<5>("tables/edits.txt")) {
-        AnyTextBox box(GetParam(), {});
-        testing::loadMarked(*box, before);
-        if (start.empty())
-            box->replaceSelection(text);
-        else
-            box->replaceRange(std::stoul(start), std::stoul(length), text);
-        EXPECT_EQ(testing::withSelection(*box), after) << before;
-    }
+    ScintillaControl control;
+    ScintillaTextBox box(control, windows1250());
+    Work(box, [&] { box.undo(); }).play("tables/text_box.txt");
 }
 
-TEST_P(TextBox, ReadsAcrossEditsAndCutsRangesToTheText)
+TEST(TextBox, KeepsItsContractInTheBoxOfTheFuzzers)
 {
-    AnyTextBox box(GetParam(), "a\r\n\0b"s);
-    box->replaceRange(3, 0, "x");
-    EXPECT_EQ(box->range(1, 4), "\r\nx\0"s);
-    EXPECT_EQ(box->range(4, 99), "\0b"s);
-    EXPECT_EQ(box->range(99, 1), "");
-    EXPECT_EQ((std::string{box->at(1), box->at(5), box->at(6)}), "\rb\0"s);
-    box->select(5, 99);
-    box->replaceSelection("");
-    box->select(99, 1);
-    box->replaceSelection("y");
-    EXPECT_EQ(box->range(3, 99), "x\0y"s);
-    box->select(1, 1);
-    box->setText("new");
-    EXPECT_EQ(testing::withSelection(*box), "|new");
-}
-
-TEST_P(TextBox, CarriesStylesWithTheirCharacters)
-{
-    AnyTextBox box(GetParam(), "abcdef");
-    box->styleRange(1, 2, red);
-    box->styleRange(4, 99, blue);
-    box->replaceRange(0, 0, "xx");
-    box->replaceRange(4, 0, "y");
-    EXPECT_EQ(styles(*box), "...r.r.bb");
-    box->replaceRange(0, 4, "");
-    EXPECT_EQ(styles(*box), ".r.bb");
-    box->styleAll({{blue, TextStyle{}, red}, "\0"s + StyleMap::keep + "\2\1"s + StyleMap::keep});
-    EXPECT_EQ(styles(*box), "brr.b");
-    box->loadText("text");
-    box->styleAll({{red}, std::string(3, StyleMap::keep) + '\0'});
-    EXPECT_EQ(styles(*box), "...r");
-}
-
-TEST_P(TextBox, UndoesStepByStepAndTellsTheObserverOnceForEachEdit)
-{
-    AnyTextBox box(GetParam(), "first");
-    Observer observer;
-    box->setObserver(&observer);
-    box->setText("one step");
-    {
-        const UndoStep outer(*box);
-        box->replaceRange(0, 0, "a");
-        const UndoStep inner(*box);
-        box->replaceRange(0, 0, "b");
-    }
-    box->replaceSelection(""); // Changes nothing: the caret has stayed in front.
-    box->select(0, 2);
-    box->replaceSelection("X");
-    box->styleRange(0, 3, red);
-    box->styleAll({{blue}, std::string(box->length(), '\0')});
-    EXPECT_EQ(observer.heard, "eeee");
-    for (const char* earlier : {"baone step", "one step", "first", "first"}) {
-        box.undo();
-        EXPECT_EQ(box->text(), earlier);
-    }
-    EXPECT_EQ(observer.heard, "eeeeuuu");
-    box->setText("edited");
-    box->loadText("opened");
-    box.undo();
-    EXPECT_EQ(box->text(), "opened");
-    EXPECT_EQ(observer.heard, "eeeeuuue");
-}
-
-TEST_P(TextBox, MakesAnAnnouncedAnswerPartOfTheEditsUndoStep)
-{
-    for (const bool joins : {true, false}) {
-        AnyTextBox box(GetParam(), "abc");
-        Observer observer;
-        box->setObserver(&observer);
-        observer.joins = joins;
-        observer.answer = [&] { box->replaceRange(0, 1, "!"); };
-        box->replaceRange(3, 0, "x");
-        EXPECT_EQ(observer.heard, "e"); // An answer is not answered.
-        EXPECT_EQ(box->text(), "!bcx");
-        observer.answer = [] {};
-        box.undo();
-        EXPECT_EQ(box->text(), joins ? "abc" : "abcx");
-    }
+    fuzzing::StringTextBox box;
+    Work(box, [&] { box.undo(); }).play("tables/text_box.txt");
 }
 
 } // namespace
-} // namespace kitwright
+} // namespace kitwright::testing

@@ -3,12 +3,7 @@
 
 #include "services/keyword_tree.h"
 
-#include "services/letter_case.h"
-
 #include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
 
 namespace kitwright {
 namespace {
@@ -31,26 +26,6 @@ Texts pathsOf(const KeywordTree& tree)
         paths.push_back((top ? "" : paths[static_cast<std::size_t>(node.parent)] + '/') + node.text);
     }
     return paths;
-}
-
-/// Loads a tree by asking `SpocitejIndexy` for each parent, however long that takes.
-KeywordTree slowTree(std::string_view lines)
-{
-    KeywordTree tree;
-    std::string parentKey;
-    int previousLevel = 0;
-    for (const std::string_view line : dataLines(lines)) {
-        const int level = (SpocitejMezery(line) + 1) / 3;
-        if (level != previousLevel)
-            SpocitejIndexy("VNORENI" + std::to_string(level - 1), parentKey, tree);
-        previousLevel = level;
-        int parent = static_cast<int>(tree.nodes().size()) - 1;
-        while (parent >= 0 && tree.nodes()[static_cast<std::size_t>(parent)].key != parentKey)
-            --parent;
-        if (level == 0 || parent >= 0)
-            tree.add(trimmedSpaces(line), level, level == 0 ? TreeNode::noParent : parent);
-    }
-    return tree;
 }
 
 TEST(KeywordTree, PutsEachLineUnderTheLastEntryOneLevelUp)
@@ -80,19 +55,6 @@ TEST(KeywordTree, KeysTellPositionLevelAndText)
     EXPECT_EQ(key, "before");
     EXPECT_EQ(SpocitejIndexy("gun", key, tree), 2);
     EXPECT_EQ(key, "3VNORENI22gunBeg");
-}
-
-TEST(KeywordTree, AgreesWithTheParentSearchByKeyOnAnyFile)
-{
-    const Texts texts{"a", "1", "0x", "", "VNORENI1", "VNORENI-1", "2VNORENI25", "12 b", "VNORENI"};
-    std::mt19937 random(7);
-    for (int round = 0; round < 400; ++round) {
-        std::string lines;
-        for (auto count = random() % 30; count > 0; --count)
-            lines +=
-                std::string(random() % (round % 4 == 0 ? 40 : 11), ' ') + texts[random() % texts.size()] + "\r\n";
-        ASSERT_EQ(pathsOf(treeOf(lines)), pathsOf(slowTree(lines))) << lines;
-    }
 }
 
 } // namespace

@@ -3,7 +3,9 @@
 
 #include "services/patch_list.h"
 
-#include "support/any_text_box.h"
+#include "platform/scintilla_control.h"
+#include "platform/scintilla_text_box.h"
+#include "platform/windows_1250.h"
 #include "support/scenario.h"
 
 #include <gtest/gtest.h>
@@ -11,18 +13,17 @@
 namespace kitwright {
 namespace {
 
-using testing::AnyTextBox;
-
-struct PatchList : ::testing::TestWithParam<const char*> {
-    std::string added(std::string_view text, std::string_view item)
+struct PatchList : ::testing::Test {
+    std::string added(const std::string& text, const std::string& item)
     {
-        AnyTextBox box(GetParam(), text);
-        AddToPatchList(*box, "Units[]", item);
-        return std::string(box->text());
+        box.loadText(text);
+        AddToPatchList(box, "Units[]", item);
+        return std::string(box.text());
     }
-};
 
-INSTANTIATE_TEST_SUITE_P(Boxes, PatchList, ::testing::ValuesIn(AnyTextBox::kinds));
+    ScintillaControl control;
+    ScintillaTextBox box{control, windows1250()};
+};
 
 std::string config(const std::string& lines)
 {
@@ -30,13 +31,13 @@ std::string config(const std::string& lines)
          + "\r\n   };\r\n};\r\nclass CfgWeapons {};\r\n";
 }
 
-TEST_P(PatchList, TakesTheItemInWhateverHandTheListIsWritten)
+TEST_F(PatchList, TakesTheItemInWhateverHandTheListIsWritten)
 {
     for (const auto& [before, after] : testing::scenarioTable<2>("tables/patch_list.txt"))
         EXPECT_EQ(added(config(before), "New"), config(after));
 }
 
-TEST_P(PatchList, ScansTheFirstBlockFromTheKeywordOn)
+TEST_F(PatchList, ScansTheFirstBlockFromTheKeywordOn)
 {
     const auto inTwo = [](const std::string& first, const std::string& second) {
         return "class CfgPatches {\r\n class A {\r\n  units[]={" + first + "};\r\n };\r\n class B {\r\n  units[]={"
@@ -58,19 +59,12 @@ TEST_P(PatchList, ScansTheFirstBlockFromTheKeywordOn)
     EXPECT_EQ(added(config(comment + list), "New"), config(comment + "units[]={New};\r\n"));
 }
 
-TEST_P(PatchList, AddsSeveralItemsAsOneByOne)
+TEST_F(PatchList, AddsSeveralItemsLikeOneByOne)
 {
-    const std::vector<std::string> items{"first", "\"second\"", "3", "čtvrtý"};
-    for (const std::string& text : {config("units[]={};"), config("units[]=\r\n{\r\n};\r\nunits[]={Old};")}) {
-        AnyTextBox single(GetParam(), text);
-        AnyTextBox together(GetParam(), text);
-        for (const std::string& item : items)
-            AddToPatchList(*single, "UNITS[]", item);
-        AddToPatchList(*together, "units[]", items);
-        EXPECT_EQ(together->text(), single->text());
-        EXPECT_NE(together->text().find("{čtvrtý,3,\"second\",first"), std::string_view::npos);
-        EXPECT_TRUE(together->range(0, together->caret()).ends_with("{čtvrtý,"));
-    }
+    box.loadText(config("units[]={Old};"));
+    AddToPatchList(box, "UNITS[]", std::vector<std::string>{"first", "\"second\"", "čtvrtý"});
+    EXPECT_EQ(box.text(), config("units[]={čtvrtý,\"second\",first,Old};"));
+    EXPECT_TRUE(box.range(0, box.caret()).ends_with("{čtvrtý,"));
 }
 
 } // namespace

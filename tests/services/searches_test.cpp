@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <random>
 
 namespace kitwright {
 namespace {
@@ -48,30 +47,6 @@ TEST(Searches, FindTheFirstEntryWithABeginning)
         {{"class", "classes"}, "CLASSE", 1},      {{"Žába", "zebra", "žal"}, "ž", 1},   {{}, "cl", -1}};
     for (const auto& [words, key, found] : cases)
         EXPECT_EQ(Words(words).prefix(key), found) << key;
-}
-
-TEST(Searches, AgreeWithALinearSearch)
-{
-    std::mt19937 random(20240);
-    const auto word = [&] {
-        std::string text;
-        for (auto length = 1 + random() % 3; length > 0; --length)
-            text += Texts{"a", "B", "b", "_", "1", "ž", "Ž", "č"}[random() % 8];
-        return text;
-    };
-    for (int round = 0; round < 300; ++round) {
-        Texts words(round == 0 ? 40'000 : random() % 40);
-        std::generate(words.begin(), words.end(), word);
-        const Words list(words);
-        const std::string key = word();
-        const int exact = FindExact(0, list.count() - 1, key, list);
-        const auto equal = [&](const std::string& text) { return equalIgnoringCase(text, key); };
-        const auto begins = [&](const std::string& text) { return upperCased(text).starts_with(upperCased(key)); };
-        ASSERT_EQ(exact >= 0, std::any_of(words.begin(), words.end(), equal)) << key;
-        ASSERT_TRUE(exact < 0 || equal(list.words[static_cast<std::size_t>(exact)])) << key;
-        const auto first = std::find_if(list.words.begin(), list.words.end(), begins);
-        ASSERT_EQ(list.prefix(key), first == list.words.end() ? -1 : first - list.words.begin()) << key;
-    }
 }
 
 } // namespace

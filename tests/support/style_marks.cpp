@@ -50,26 +50,6 @@ std::string render(const RichTextBox& box, Position from, Position caret, const 
 
 } // namespace
 
-EditorSettings distinctStyles()
-{
-    EditorSettings settings;
-    settings.ConfigKeywordItalic = true;
-    settings.CommentColor = 0x008000;
-    settings.CommentItalic = true;
-    return settings;
-}
-
-KeywordList sampleKeywords()
-{
-    KeywordList keywords;
-    keywords.addLines("Man\r\nŠkoda\r\n", KeywordClass::ClassName);
-    keywords.addLines("requiredVersion\r\nunits[]\r\n", KeywordClass::ConfigCommand);
-    keywords.addLines("odd\r\n", KeywordClass{7});
-    for (const std::string_view word : {"class", "CfgPatches"})
-        keywords.add(word, KeywordClass::CLanguageWord);
-    return keywords;
-}
-
 std::string marked(const RichTextBox& box, Position from, const EditorSettings& settings)
 {
     return render(box, from, box.caret(), settings);
@@ -77,7 +57,7 @@ std::string marked(const RichTextBox& box, Position from, const EditorSettings& 
 
 std::string markedText(const RichTextBox& box)
 {
-    return render(box, 0, std::numeric_limits<Position>::max(), distinctStyles());
+    return render(box, 0, std::numeric_limits<Position>::max(), fuzzing::distinctStyles());
 }
 
 } // namespace kitwright::testing

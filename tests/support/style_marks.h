@@ -3,27 +3,20 @@
 
 #pragma once
 
-#include "app/keyword_list.h"
+#include "fuzz/support/keywords.h"
 #include "platform/rich_text_box.h"
-#include "services/settings.h"
 
 #include <string>
 
 namespace kitwright::testing {
-
-/// Settings under which no two ranges look alike.
-EditorSettings distinctStyles();
-
-/// Keywords of every class: `class` and `CfgPatches` of the C language, `requiredVersion` and `units[]` of the config,
-/// the class names `Man` and `Škoda`, and `odd`, whose class number has no style.
-KeywordList sampleKeywords();
 
 /// A style that no setting has: what text looked like before the program coloured it.
 inline constexpr TextStyle oldStyle{0x123456, true, true};
 
 /// A box's text from a position on, each range that is not plain in marks: <C:config command>, <L:word of the C
 /// language>, <N:class name>, <K:comment>, <O:old style>, <?:any other>. The caret is a "|".
-std::string marked(const RichTextBox& box, Position from = 0, const EditorSettings& settings = distinctStyles());
+std::string marked(const RichTextBox& box, Position from = 0,
+                   const EditorSettings& settings = fuzzing::distinctStyles());
 
 /// As `marked`, without the caret.
 std::string markedText(const RichTextBox& box);

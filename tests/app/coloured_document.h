@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "fuzz/support/keywords.h"
+#include "platform/scintilla_control.h"
+#include "platform/scintilla_text_box.h"
+#include "platform/windows_1250.h"
+#include "support/scenario.h"
+#include "support/style_marks.h"
+#include "support/typing.h"
+
+#include <gtest/gtest.h>
+
+namespace kitwright::testing {
+
+/// A document in the real control, and what colours it.
+struct ColouredDocument : ::testing::Test {
+    void type(std::string_view keys) { typeKeys(control, keys); }
+
+    ScintillaControl control;
+    ScintillaTextBox box{control, windows1250()};
+    const KeywordList keywords = fuzzing::sampleKeywords();
+    EditorSettings settings = fuzzing::distinctStyles();
+};
+
+} // namespace kitwright::testing
