@@ -106,8 +106,8 @@ TEST_F(Start, FillsTreesListsAndKeywords)
 
 TEST_F(Start, TellsOfMissingKeywordFilesOnly)
 {
-    const std::string classesMessage = "tell Missing: " + classFile + "\r\n\n";
-    const std::string commandsMessage = "tell Missing: " + commandFile + "\r\n\n";
+    const std::string classesMessage = "tell Missing: " + classFile + "\\r\\n\n";
+    const std::string commandsMessage = "tell Missing: " + commandFile + "\\r\\n\n";
     const std::pair<std::string, std::string> cases[] = {{classFile, commandsMessage + commandsMessage},
                                                          {commandFile, classesMessage},
                                                          {"", classesMessage + commandsMessage + commandsMessage}};

@@ -6,6 +6,7 @@
 #include "../wizards/window_story.h"
 
 namespace kitwright::testing {
+using namespace told;
 namespace {
 
 class StringtableWindow : public WindowStory {

@@ -3,9 +3,13 @@
 
 #include "stringtable/table_store.h"
 
-#include "../wizards/story.h"
-#include "support/fake_host.h"
+#include "platform/windows_1250.h"
+#include "support/memory_file_system.h"
 #include "support/scenario.h"
+
+#include <gtest/gtest.h>
+
+#include <regex>
 
 namespace kitwright::testing {
 namespace {
@@ -28,19 +32,19 @@ protected:
         table.setKey(table.StringCount() - 1, key);
     }
 
-    void setText(const std::string& index, std::string text)
+    /// Of key 2 in language 1 when the place is "2,1".
+    void setText(const std::string& place, const std::string& text)
     {
-        const std::string language = takeWord(text);
-        table.setText(std::stoul(index), std::stoul(language), text);
+        table.setText(std::stoul(place), std::stoul(place.substr(place.find(',') + 1)), text);
     }
 
     /// A second save changes nothing.
     void save(const std::string& path)
     {
         EXPECT_FALSE(store.save(path));
-        const std::map<std::string, std::string> saved = files;
+        const std::map<std::string, std::string> saved = disk.files;
         EXPECT_FALSE(store.save(path));
-        EXPECT_EQ(files, saved);
+        EXPECT_EQ(disk.files, saved);
     }
 
     std::string keys() const
@@ -61,32 +65,38 @@ protected:
 
     using Word = const std::string&;
 
-    FakeContext fake;
-    std::map<std::string, std::string>& files = fake.files.files;
+    MemoryFileSystem disk;
+    TextFiles texts{disk, windows1250()};
     StringTable table;
-    TableStore store{fake.files, fake.texts, table};
-    Verbs verbs{
+    TableStore store{disk, texts, table};
+    const Verbs verbs{
         {"add", [this](Word key, Word) { add(key); }},
         {"key", [this](Word index, Word key) { table.setKey(std::stoul(index), key); }},
-        {"text", [this](Word index, Word text) { setText(index, text); }},
-        {"clear", [this](Word index, Word) { table.setTicked(std::stoul(index), false); }},
+        {"text", [this](Word place, Word text) { setText(place, text); }},
+        {"untick", [this](Word index, Word) { table.setTicked(std::stoul(index), false); }},
         {"remove", [this](Word index, Word) { table.remove(std::stoul(index)); }},
         {"remove-all", [this](Word, Word) { table.removeAll(); }},
         {"open", [this](Word folder, Word) { EXPECT_FALSE(store.open(folder)); }},
         {"cannot-open", [this](Word folder, Word) { EXPECT_TRUE(store.open(folder)); }},
         {"save", [this](Word path, Word) { save(path); }},
         {"cannot-save", [this](Word path, Word) { EXPECT_TRUE(store.save(path)); }},
-        {"put", [this](Word path, Word text) { files[path] = fake.codePage.encode(text); }},
-        {"unwritable", [this](Word path, Word) { fake.files.unwritable.insert(path); }},
-        {"holds", [this](Word path, Word text) { EXPECT_EQ(fake.codePage.decode(files[path]), text); }},
-        {"absent", [this](Word path, Word) { EXPECT_FALSE(files.contains(path)); }},
-        {"keys", [this](Word, Word expected) { EXPECT_EQ(keys(), expected); }},
+        {"put", [this](Word path, Word text) { disk.files[path] = windows1250().encode(text); }},
+        {"lock", [this](Word path, Word) { disk.unwritable.insert(path); }},
+        {"stored", [this](Word path, Word text) { EXPECT_EQ(windows1250().decode(disk.files[path]), text); }},
+        {"missing", [this](Word path, Word) { EXPECT_FALSE(disk.fileExists(path)); }},
+        {"keys", [this](Word expected, Word) { EXPECT_EQ(keys(), expected); }},
         {"texts", [this](Word index, Word all) { EXPECT_EQ(joined(table.entry(std::stoul(index)).Texts), all); }},
-        {"languages", [this](Word, Word expected) { EXPECT_EQ(joined(table.languages()), expected); }},
+        {"languages", [this](Word expected, Word) { EXPECT_EQ(joined(table.languages()), expected); }},
     };
 };
 
-PLAY_STORIES(TableStoreTest, "stringtable/table_store.story");
+TEST_P(TableStoreTest, GoesAsWritten)
+{
+    play(GetParam().steps, [this](const Step& step) { perform(step, verbs); });
+}
+
+INSTANTIATE_TEST_SUITE_P(Told, TableStoreTest, ::testing::ValuesIn(readStories("stringtable/table_store.txt")),
+                         [](const auto& told) { return told.param.name; });
 
 /// Every way of writing a record that one meets, in eight languages.
 class HandWrittenTable : public TableStoreTest {
@@ -97,37 +107,36 @@ protected:
 TEST_F(HandWrittenTable, IsGivenBackUnchanged)
 {
     for (const char* lineEnd : {"\r\n", "\n", "\r"}) {
-        std::string text = file;
-        replaceAll(text, "\r\n", lineEnd);
-        files[fileA] = text;
+        const std::string text = std::regex_replace(file, std::regex("\r\n"), lineEnd);
+        disk.files[fileA] = text;
         EXPECT_FALSE(store.open("/a/"));
         EXPECT_EQ(table.StringCount(), 201u);
         EXPECT_EQ(joined(table.languages()), "English|Czech|French|Klingon|GERMAN|Polish|Russian|");
         save(fileA);
-        EXPECT_EQ(files[fileA], text);
+        EXPECT_EQ(disk.files[fileA], text);
         // To another folder it goes as a whole.
-        files.erase(fileB);
+        disk.files.erase(fileB);
         save(fileB);
-        EXPECT_EQ(files[fileB], text);
+        EXPECT_EQ(disk.files[fileB], text);
     }
 }
 
 TEST_F(HandWrittenTable, ChangesOneRecordWhereOneTextChanged)
 {
     for (std::size_t index = 0; index < 201; index += 9) {
-        files[fileA] = file;
+        disk.files[fileA] = file;
         store.open("/a/");
         table.setText(index, 2, "Fusil, \"grand\"");
         save(fileA);
 
-        std::vector<TableRecord> expected = tableLines(fake.codePage.decode(file));
+        std::vector<TableRecord> expected = tableLines(windows1250().decode(file));
         for (TableRecord& line : expected) {
             if (!isTableRecord(line) || recordKey(line) != table.entry(index).Key)
                 continue;
             line.fields.resize(std::max<std::size_t>(line.fields.size(), 3));
             line.fields[2] = withFieldText(line.fields[2], "Fusil, \"grand\"");
         }
-        EXPECT_EQ(tableLines(fake.codePage.decode(files[fileA])), expected);
+        EXPECT_EQ(tableLines(windows1250().decode(disk.files[fileA])), expected);
     }
 }
 

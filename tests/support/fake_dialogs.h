@@ -12,7 +12,7 @@
 namespace kitwright::testing {
 
 /// Answers dialogs from queues and notes what was asked. An empty queue cancels. `log` tells all of it in order, a line
-/// each: what was asked, and the text or the parts of a file dialog.
+/// each: what was asked, and the text or the parts of a file dialog, line ends in it as "\r" and "\n".
 class FakeDialogs final : public Dialogs {
 public:
     std::deque<std::optional<std::string>> openAnswers;
@@ -38,7 +38,7 @@ public:
     }
 
     std::optional<std::uint32_t> chooseColour() override { return next("colour", colourAnswers); }
-    void showMessage(const std::string& text) override { log += "tell " + text + '\n'; }
+    void showMessage(const std::string& text) override { note("tell " + text); }
 
     bool askYesNo(const std::string& question) override
     {
@@ -58,10 +58,17 @@ private:
         return dialog.filter + ", " + dialog.defaultExtension + ", " + dialog.fileName + ", " + dialog.title;
     }
 
+    void note(const std::string& line)
+    {
+        for (const char character : line)
+            log += character == '\r' ? "\\r" : character == '\n' ? "\\n" : std::string(1, character);
+        log += '\n';
+    }
+
     template <class Answer>
     Answer next(const std::string& asked, std::deque<Answer>& answers)
     {
-        log += asked + '\n';
+        note(asked);
         if (answers.empty())
             return Answer();
         Answer answer = answers.front();

@@ -3,6 +3,8 @@
 
 #include "support/scenario.h"
 
+#include <gtest/gtest.h>
+
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -24,6 +26,15 @@ char escaped(const std::string& line, std::size_t& at)
     return known == std::string::npos ? letter : "\r\n\t\0"[known];
 }
 
+const Story& named(const std::vector<Story>& stories, const std::string& name)
+{
+    for (const Story& story : stories) {
+        if (story.name == name)
+            return story;
+    }
+    throw std::runtime_error("no story " + name);
+}
+
 Cells cellsOf(const std::string& line)
 {
     Cells cells;
@@ -39,6 +50,67 @@ Cells cellsOf(const std::string& line)
     return cells;
 }
 
+/// Reads stories line by line.
+class StoryReader {
+public:
+    explicit StoryReader(std::string place) : m_place(std::move(place)) {}
+
+    std::vector<Story> stories; ///< What stands in front of the first heading has no name, shared steps their mark.
+
+    void take(const std::string& line)
+    {
+        ++m_number;
+        const bool isText = line.starts_with('|');
+        if (isText)
+            takeText(line.substr(1));
+        else if (line.starts_with("== ") || line.starts_with(sharedMark))
+            begin(line.substr(line.starts_with("== ") ? 3 : 0));
+        else if (Cells cells = cellsOf(line); !cells.empty())
+            takeStep(std::move(cells));
+        m_inText = isText;
+    }
+
+    static constexpr std::string_view sharedMark = "-- ";
+
+private:
+    void begin(const std::string& name)
+    {
+        stories.push_back({name, {}});
+        m_levels = {&stories.back().steps};
+    }
+
+    void takeText(const std::string& line)
+    {
+        Cells& cells = m_levels.back()->back().cells;
+        if (m_inText)
+            cells.back() += "\r\n" + line;
+        else
+            cells.push_back(line);
+    }
+
+    void takeStep(Cells cells)
+    {
+        if (m_levels.empty())
+            begin({});
+        Steps& steps = *m_levels.back();
+        if (cells[0] == "end") {
+            m_levels.pop_back();
+        } else if (cells[0] == "after") {
+            const Steps shared = named(stories, std::string(sharedMark) + cells.at(1)).steps;
+            steps.insert(steps.end(), shared.begin(), shared.end());
+        } else {
+            steps.push_back({m_place + ':' + std::to_string(m_number), std::move(cells), {}});
+            if (steps.back().cells[0] == "open")
+                m_levels.push_back(&steps.back().inner);
+        }
+    }
+
+    std::string m_place;
+    std::vector<Steps*> m_levels; ///< What the next step is added to is the last of them.
+    int m_number = 0;
+    bool m_inText = false;
+};
+
 } // namespace
 
 std::vector<Cells> scenarioLines(const std::string& file)
@@ -50,6 +122,61 @@ std::vector<Cells> scenarioLines(const std::string& file)
             lines.push_back(std::move(cells));
     }
     return lines;
+}
+
+void PrintTo(const Step& step, std::ostream* out)
+{
+    *out << step.place;
+    for (const std::string& cell : step.cells)
+        *out << ' ' << cell;
+}
+
+void PrintTo(const Story& story, std::ostream* out)
+{
+    *out << story.name;
+}
+
+std::vector<Story> storiesIn(const std::string& text, const std::string& place)
+{
+    StoryReader reader(place);
+    std::istringstream lines(text);
+    for (std::string line; std::getline(lines, line);)
+        reader.take(line);
+    std::erase_if(reader.stories,
+                  [](const Story& story) { return story.name.starts_with(StoryReader::sharedMark); });
+    return reader.stories;
+}
+
+std::vector<Story> readStories(const std::string& file)
+{
+    return storiesIn(scenarioText(file), file);
+}
+
+Steps readStory(const std::string& file, const std::string& name)
+{
+    return named(readStories(file), name).steps;
+}
+
+void perform(const Step& step, const Verbs& verbs)
+{
+    const auto verb = verbs.find(step.cells[0]);
+    if (verb == verbs.end())
+        throw std::runtime_error("no verb " + step.cells[0]);
+    Cells cells = step.cells;
+    cells.resize(3);
+    verb->second(cells[1], cells[2]);
+}
+
+void play(const Steps& steps, const std::function<void(const Step&)>& perform)
+{
+    for (const Step& step : steps) {
+        SCOPED_TRACE(::testing::PrintToString(step));
+        try {
+            perform(step);
+        } catch (const std::exception& reason) {
+            ADD_FAILURE() << reason.what();
+        }
+    }
 }
 
 std::string scenarioText(const std::string& file)

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
+#include <map>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -30,6 +32,45 @@ std::vector<std::array<std::string, columns>> scenarioTable(const std::string& f
     }
     return table;
 }
+
+/// A step of a story: a verb and what it is told. What stands between "open" and "end" belongs to the former.
+struct Step {
+    std::string place; ///< The file and the line that it was read from.
+    Cells cells;
+    std::vector<Step> inner;
+
+    friend void PrintTo(const Step& step, std::ostream* out);
+};
+
+using Steps = std::vector<Step>;
+
+struct Story {
+    std::string name;
+    Steps steps;
+
+    friend void PrintTo(const Story& story, std::ostream* out);
+};
+
+/// The stories of a text, whose place is told as `place`. A step is a line of cells; lines behind it that begin with
+/// "|" are one more cell, with CR LF between them and without escapes. "== Name" begins a story, "-- Name" steps that
+/// the stories below it do with "after Name". A text without stories is one, without a name.
+std::vector<Story> storiesIn(const std::string& text, const std::string& place);
+
+/// The stories of tests/data/<file>.
+std::vector<Story> readStories(const std::string& file);
+
+/// The steps of one of them; throws when it is not there.
+Steps readStory(const std::string& file, const std::string& name);
+
+/// What the verbs of a story do with the first cell behind them and the second one; missing ones are empty.
+using Verb = std::function<void(const std::string& target, const std::string& text)>;
+using Verbs = std::map<std::string, Verb>;
+
+/// Does a step; throws when there is no such verb.
+void perform(const Step& step, const Verbs& verbs);
+
+/// Does step by step. What cannot be done fails the test.
+void play(const Steps& steps, const std::function<void(const Step&)>& perform);
 
 /// The bytes of tests/data/<file>.
 std::string scenarioText(const std::string& file);

@@ -6,6 +6,7 @@
 #include "window_story.h"
 
 namespace kitwright::testing {
+using namespace told;
 namespace {
 
 class ClassWizardWindow : public WindowStory {

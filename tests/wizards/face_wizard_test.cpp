@@ -9,6 +9,7 @@
 #include <QImage>
 
 namespace kitwright::testing {
+using namespace told;
 namespace {
 
 std::string jpg(int width, int height)

@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-namespace kitwright::testing {
+namespace kitwright::testing::told {
 
 /// One line of a story: "type txtname MyGun" is a verb, its target and a text.
 struct Step {
@@ -104,4 +104,4 @@ inline void play(const Story& story, const Verbs& verbs)
     INSTANTIATE_TEST_SUITE_P(Told, Suite, ::testing::ValuesIn(readStories(file)),                                  \
                              [](const auto& told) { return told.param.name; })
 
-} // namespace kitwright::testing
+} // namespace kitwright::testing::told

@@ -4,11 +4,11 @@
 #include "wizards/vehicle_wizard.h"
 
 #include "window_story.h"
-#include "wizards/vehicle_block.h"
 
 #include <QTreeWidget>
 
 namespace kitwright::testing {
+using namespace told;
 namespace {
 
 class VehicleWizardWindow : public WindowStory {
@@ -51,34 +51,6 @@ protected:
 };
 
 PLAY_STORIES(VehicleWizardWindow, "wizards/vehicle_wizard.story");
-
-/// A "*" behind a line of the tree ticks it; the values are "v1" for node 1 and so on.
-class VehicleBlockText : public ::testing::TestWithParam<Story> {
-protected:
-    void readTree(const std::string& lines)
-    {
-        std::string plain;
-        for (const std::string_view line : dataLines(lines)) {
-            ticked.push_back(line.ends_with('*'));
-            plain.append(line.substr(0, line.find('*'))) += '\r';
-            properties.push_back({"", "v" + std::to_string(ticked.size())});
-        }
-        addTreeLines(plain, tree);
-    }
-
-    KeywordTree tree;
-    std::vector<bool> ticked;
-    std::vector<VehicleProperty> properties{1};
-    Verbs verbs{
-        {"tree", [this](const std::string&, const std::string& lines) { readTree(lines); }},
-        {"block",
-         [this](const std::string&, const std::string& block) {
-             EXPECT_EQ(vehicleBlock({"T", "B", "[declared]", tree, ticked, properties}), block);
-         }},
-    };
-};
-
-PLAY_STORIES(VehicleBlockText, "wizards/vehicle_block.story");
 
 } // namespace
 } // namespace kitwright::testing

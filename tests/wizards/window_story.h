@@ -21,6 +21,8 @@
 
 namespace kitwright::testing {
 
+using namespace told;
+
 /// Stories of what an author does in one window, and of what the window, the document and the disk show then.
 class WindowStory : public ::testing::TestWithParam<Story> {
 protected:

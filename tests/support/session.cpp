@@ -1,0 +1,302 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "support/session.h"
+
+#include "platform/windows_1250.h"
+#include "support/style_marks.h"
+#include "support/typing.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QBuffer>
+#include <QComboBox>
+#include <QImage>
+#include <QTreeView>
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace kitwright::testing {
+
+namespace {
+
+void require(bool holds, const std::string& what)
+{
+    if (!holds)
+        throw std::runtime_error(what);
+}
+
+/// The first entry of a list or tree with that text.
+QModelIndex entry(const QAbstractItemView& view, const std::string& text)
+{
+    const QModelIndex first = view.model()->index(0, 0);
+    const auto found = view.model()->match(first, Qt::DisplayRole, toQt(text), 1,
+                                           Qt::MatchExactly | Qt::MatchCaseSensitive | Qt::MatchRecursive);
+    require(!found.isEmpty(), "no entry " + text);
+    return found[0];
+}
+
+/// The entries that a list or an open branch of a tree shows, "+" behind what is ticked.
+QStringList entries(const QAbstractItemView& view, const QModelIndex& branch = {})
+{
+    QStringList all;
+    for (int row = 0; row < view.model()->rowCount(branch); ++row) {
+        const QModelIndex index = view.model()->index(row, 0, branch);
+        all += index.data().toString() + (index.data(Qt::CheckStateRole).toInt() == Qt::Checked ? "+" : "");
+        const auto* tree = qobject_cast<const QTreeView*>(&view);
+        if (tree && tree->isExpanded(index))
+            all += entries(view, index);
+    }
+    return all;
+}
+
+/// What a path names behind its colon.
+std::string behindColon(const std::string& path)
+{
+    const std::size_t colon = path.find(':');
+    return colon == std::string::npos ? "" : path.substr(colon + 1);
+}
+
+/// The property that a path names, or the one that says most of the control.
+QByteArray propertyOf(const QObject& object, const std::string& path)
+{
+    if (const std::string named = behindColon(path); !named.empty())
+        return QByteArray::fromStdString(named);
+    for (const char* name : {"currentText", "title", "text", "plainText"}) {
+        if (object.property(name).isValid())
+            return name;
+    }
+    return "windowTitle";
+}
+
+QString shown(const QAbstractItemView& view, const std::string& property)
+{
+    if (property == "entries")
+        return entries(view).join(", ");
+    return view.currentIndex().data(property == "tip" ? Qt::ToolTipRole : Qt::DisplayRole).toString();
+}
+
+/// A property as text; of a picture, how many times as wide as high it is.
+QString shown(const QObject& object, const std::string& path)
+{
+    const std::string property = behindColon(path);
+    const auto* view = qobject_cast<const QAbstractItemView*>(&object);
+    if (view && (property.empty() || property == "entries" || property == "tip"))
+        return shown(*view, property);
+    const QVariant value = object.property(propertyOf(object, path));
+    if (value.typeId() != QMetaType::QPixmap)
+        return value.toString();
+    const auto picture = value.value<QPixmap>();
+    return picture.isNull() ? QString() : QString::number(1.0 * picture.width() / picture.height(), 'f', 1);
+}
+
+std::string picture(const std::string& size)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QImage image(std::stoi(size), std::stoi(size.substr(size.find('x') + 1)), QImage::Format_RGB32);
+    image.fill(Qt::red);
+    image.save(&buffer, "jpg");
+    return bytes.toStdString();
+}
+
+} // namespace
+
+Session::Session()
+    : m_acts{
+          {"start", [this](Text language, Text) { app.startWith(language); }},
+          {"put", [this](Text path, Text text) { app.file(path) = windows1250().encode(text); }},
+          {"put-bytes", [this](Text path, Text bytes) { app.file(path) = bytes; }},
+          {"put-picture", [this](Text path, Text size) { app.file(path) = picture(size); }},
+          {"lock", [this](Text path, Text) { app.files.unwritable.insert(path); }},
+          {"remove", [this](Text path, Text) { remove(path); }},
+          {"answer", [this](Text dialog, Text text) { answer(dialog, text); }},
+          {"load", [this](Text text, Text) { loadMarked(app.box(), text); }},
+          {"in", [this](Text window, Text) { m_window = window; }},
+          {"click", [this](Text path, Text text) { click(path, text); }},
+          {"doubleclick", [this](Text path, Text text) { click(path, text, true); }},
+          {"choose", [this](Text path, Text text) { choose(path, text); }},
+          {"tick", [this](Text path, Text text) { tick(path, text, Qt::Checked); }},
+          {"untick", [this](Text path, Text text) { tick(path, text, Qt::Unchecked); }},
+          {"type", [this](Text path, Text text) { typeKeys(widget(path), text); }},
+          {"press", [this](Text path, Text keys) { press(path, keys); }},
+          {"set", [this](Text path, Text text) {
+               object(path).setProperty(propertyOf(object(path), path), toQt(text));
+           }},
+          {"show", [this](Text window, Text) { widget(window).show(); }},
+          {"activate", [this](Text window, Text) { activate(window); }},
+          {"resize", [this](Text window, Text size) { resize(window, size); }},
+          {"close", [this](Text window, Text) { widget(window).close(); }},
+      },
+      m_looks{
+          {"see", [this](Text what, Text value) { EXPECT_EQ(seen(what), value); }},
+          {"enabled", [this](Text names, Text) { expectEnabled(names, true); }},
+          {"disabled", [this](Text names, Text) { expectEnabled(names, false); }},
+          {"expected", [this](Text file, Text) { EXPECT_EQ(app.text(), scenarioText(file)); }},
+          {"stored", [this](Text path, Text text) { EXPECT_EQ(stored(path), text); }},
+          {"copied", [this](Text from, Text to) { EXPECT_EQ(stored(to), stored(from)); }},
+          {"missing", [this](Text path, Text) { EXPECT_FALSE(app.files.fileExists(path)); }},
+          // What the program asked, told and started since this was looked at last.
+          {"asked", [this](Text all, Text) { EXPECT_EQ(asked(), all); }},
+      }
+{
+    for (int number = 0; number < 76; ++number)
+        app.file("/numbers.lng") += "text " + std::to_string(number) + "\r\n";
+}
+
+void Session::play(const Steps& steps)
+{
+    m_onlyActs = false;
+    testing::play(steps, [this](const Step& step) { doStep(step); });
+}
+
+void Session::act(const Steps& steps)
+{
+    m_onlyActs = true;
+    for (const Step& step : steps) {
+        try {
+            doStep(step);
+        } catch (const std::exception&) { // What it needs is not there.
+        }
+    }
+}
+
+void Session::doStep(const Step& step)
+{
+    if (step.cells[0] == "open")
+        open(step);
+    else if (m_acts.contains(step.cells[0]))
+        perform(step, m_acts);
+    else if (!m_onlyActs)
+        perform(step, m_looks);
+}
+
+/// Clicks what opens a modal window, in which the inner steps are done.
+void Session::open(const Step& step)
+{
+    QWidget* opened = nullptr;
+    const auto inside = [&](QWidget& modal) {
+        opened = &modal;
+        m_onlyActs ? act(step.inner) : play(step.inner);
+    };
+    RunningApplication::withModal([&] { click(step.cells.at(1), {}); }, inside);
+    require(opened && opened == &widget(step.cells.at(2)), "the window does not open");
+}
+
+QObject& Session::object(Text path)
+{
+    const std::string name = path.substr(0, path.find(':'));
+    const std::size_t dot = name.find('.');
+    if (dot != std::string::npos)
+        return app.control<QObject>(name.substr(dot + 1), name.substr(0, dot));
+    QWidget* window = app.program().window(name);
+    return window ? *window : app.control<QObject>(name, m_window);
+}
+
+void Session::answer(Text dialog, Text answer)
+{
+    const auto chosen = answer == "cancel" ? std::nullopt : std::optional(answer);
+    if (dialog == "open")
+        app.dialogs.openAnswers.push_back(chosen);
+    else if (dialog == "save")
+        app.dialogs.saveAnswers.push_back(chosen);
+    else if (dialog == "text")
+        app.dialogs.textAnswers.push_back(answer);
+    else if (dialog == "colour")
+        app.dialogs.colourAnswers.push_back(QColor(toQt(answer)).rgb() & 0xFFFFFF);
+    else
+        app.dialogs.yesNoAnswers.push_back(answer == "yes");
+}
+
+/// Removes a file, or a folder with all that is in it.
+void Session::remove(Text path)
+{
+    std::erase_if(app.files.files,
+                  [&](const auto& file) { return file.first == path || file.first.starts_with(path + '/'); });
+}
+
+void Session::click(Text path, Text text, bool twice)
+{
+    auto* view = qobject_cast<QAbstractItemView*>(&object(path));
+    if (auto* action = qobject_cast<QAction*>(&object(path)))
+        return action->trigger();
+    if (!view)
+        return widget(path).isVisible() ? QTest::mouseClick(&widget(path), Qt::LeftButton)
+                                        : dynamic_cast<QAbstractButton&>(widget(path)).click();
+    const QModelIndex index = entry(*view, text);
+    view->scrollTo(index);
+    const QPoint point = view->visualRect(index).center();
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
+    if (twice)
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, point);
+}
+
+/// Chooses from the open box, the entry that it shows already as well.
+void Session::choose(Text path, Text text)
+{
+    auto& box = dynamic_cast<QComboBox&>(object(path));
+    box.showPopup();
+    box.view()->setCurrentIndex(entry(*box.view(), text));
+    QTest::keyClick(box.view(), Qt::Key_Return);
+}
+
+void Session::tick(Text path, Text text, Qt::CheckState state)
+{
+    QAbstractItemView& view = list(path);
+    view.model()->setData(entry(view, text), state, Qt::CheckStateRole);
+}
+
+void Session::press(Text path, Text keys)
+{
+    const QKeyCombination key = QKeySequence(toQt(keys))[0];
+    QTest::keyClick(&widget(path), key.key(), key.keyboardModifiers());
+}
+
+void Session::activate(Text window)
+{
+    widget(window).activateWindow();
+    require(QTest::qWaitFor([&] { return widget(window).isActiveWindow(); }), "the window does not become active");
+}
+
+void Session::resize(Text window, Text size)
+{
+    widget(window).resize(std::stoi(size), std::stoi(size.substr(size.find('x') + 1)));
+    QCoreApplication::processEvents();
+}
+
+std::string Session::seen(Text what)
+{
+    if (what == "document")
+        return app.text();
+    if (what == "marks")
+        return marked(app.box(), 0, app.state().Settings);
+    if (what == "file")
+        return app.state().CurrentFile;
+    if (what == "addon")
+        return app.state().PatchClassName;
+    return fromQt(shown(object(what), what));
+}
+
+std::string Session::stored(Text path)
+{
+    const Outcome<std::string> bytes = app.files.readBytes(path);
+    return bytes ? windows1250().decode(*bytes) : bytes.reason();
+}
+
+std::string Session::asked()
+{
+    QStringList lines = toQt(std::exchange(app.dialogs.log, {}) + std::exchange(app.launcher.log, {})).split('\n');
+    lines.removeLast();
+    return fromQt(lines.join("\r\n"));
+}
+
+void Session::expectEnabled(Text names, bool enabled)
+{
+    std::istringstream all(names);
+    for (std::string name; all >> name;)
+        EXPECT_EQ(widget(name).isEnabled(), enabled) << name;
+}
+
+} // namespace kitwright::testing

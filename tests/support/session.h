@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "support/running_application.h"
+#include "support/scenario.h"
+
+#include <QAbstractItemView>
+
+namespace kitwright::testing {
+
+/// An author's session with the whole program, told in steps. A control is written as "window.name", or by its name
+/// alone when it is one of the window that "in" named last, the main window at first. A property of it may follow
+/// behind a colon. Text N of the language file /numbers.lng is "text N".
+class Session {
+public:
+    Session();
+
+    RunningApplication app;
+
+    /// Does the steps, and holds the program to what they look at.
+    void play(const Steps& steps);
+
+    /// Does the steps that act; what cannot be done, as what it needs is not there, is left out.
+    void act(const Steps& steps);
+
+private:
+    using Text = const std::string&;
+
+    void doStep(const Step& step);
+    void open(const Step& step);
+
+    QObject& object(Text path);
+    QWidget& widget(Text path) { return dynamic_cast<QWidget&>(object(path)); }
+    QAbstractItemView& list(Text path) { return dynamic_cast<QAbstractItemView&>(object(path)); }
+
+    void answer(Text dialog, Text answer);
+    void remove(Text path);
+    void click(Text path, Text text, bool twice = false);
+    void choose(Text path, Text text);
+    void tick(Text path, Text text, Qt::CheckState state);
+    void press(Text path, Text keys);
+    void activate(Text window);
+    void resize(Text window, Text size);
+
+    std::string seen(Text what);
+    std::string stored(Text path);
+    std::string asked();
+    void expectEnabled(Text names, bool enabled);
+
+    bool m_onlyActs = false;
+    std::string m_window = "fmrconfigedit";
+    const Verbs m_acts;
+    const Verbs m_looks;
+};
+
+} // namespace kitwright::testing
