@@ -18,8 +18,15 @@
 #include <stdexcept>
 #include <unistd.h>
 
-/// Not there in a program without sanitizers.
-extern "C" __attribute__((weak)) void __sanitizer_set_death_callback(void (*callback)());
+/// What the sanitizers find ends the program by a signal, too.
+extern "C" const char* __asan_default_options()
+{
+    return "abort_on_error=1";
+}
+extern "C" const char* __ubsan_default_options()
+{
+    return "abort_on_error=1";
+}
 
 namespace kitwright::fuzzing {
 
@@ -55,14 +62,12 @@ void prepareForTheEnd(const std::filesystem::path& program)
 {
     fileOfTried = (std::filesystem::current_path() / program.filename()).string() + ".input";
     std::filesystem::remove(fileOfTried);
-    std::signal(SIGABRT, endBySignal);
-    if (__sanitizer_set_death_callback != nullptr) {
-        // The sanitizers report the other signals themselves.
-        __sanitizer_set_death_callback(leaveTried);
-        return;
+    for (const int number : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL}) {
+        const auto former = std::signal(number, endBySignal);
+        // The sanitizers answer some of them themselves, by a report and SIGABRT.
+        if (former != SIG_DFL)
+            std::signal(number, former);
     }
-    for (const int number : {SIGSEGV, SIGBUS, SIGFPE, SIGILL})
-        std::signal(number, endBySignal);
 }
 
 std::string contentOf(const std::filesystem::path& path)
