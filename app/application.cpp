@@ -94,8 +94,11 @@ void Application::loadSettings()
 {
     m_state.Settings = EditorSettings();
     if (m_desktop.files.fileExists(settingsPath())) {
-        report(lcApp(), "reading the settings",
-               LoadSettings(m_desktop.files, m_desktop.texts.codePage(), settingsPath(), m_state.Settings));
+        const Failure failure =
+            LoadSettings(m_desktop.files, m_desktop.texts.codePage(), settingsPath(), m_state.Settings);
+        report(lcApp(), "reading the settings", failure);
+        if (failure)
+            m_insteadOfUnread = m_state.Settings;
         // Without a chosen language the designer's captions stand.
         if (!m_state.Settings.LanguageFile.empty())
             applyLanguage(m_state.Settings.LanguageFile);
@@ -211,8 +214,11 @@ std::string Application::chooseFolder()
     return chooser.FolderPath;
 }
 
+/// A file that could not be read keeps what it holds, unless the author has set something since.
 void Application::saveSettings()
 {
+    if (m_insteadOfUnread == m_state.Settings)
+        return;
     report(lcApp(), "writing the settings",
            SaveSettings(m_desktop.files, m_desktop.texts.codePage(), settingsPath(), m_state.Settings));
 }

@@ -15,6 +15,7 @@
 #include <QPointer>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -67,6 +68,7 @@ private:
     PlainLabels m_plainLabels;
     Desktop m_desktop;
     SharedState m_state;
+    std::optional<EditorSettings> m_insteadOfUnread; ///< The settings that stand for a file that could not be read.
     WizardState m_wizards;
     KeywordTree m_classTree;
     KeywordTree m_commandTree;

@@ -128,7 +128,9 @@ Failure SaveSettings(FileSystem& files, const CodePage& codePage, const std::str
     std::string bytes = encodeSettings(settings, codePage);
     if (files.fileExists(path)) {
         const Outcome<std::string> before = files.readBytes(path);
-        if (before && before->size() > bytes.size())
+        if (!before)
+            return before.reason();
+        if (before->size() > bytes.size())
             bytes += before->substr(bytes.size());
     }
     return files.writeBytes(path, bytes);

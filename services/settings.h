@@ -43,7 +43,8 @@ std::string encodeSettings(const EditorSettings& settings, const CodePage& codeP
 /// other field that is missing keeps its value. Bytes behind the record are not looked at.
 void decodeSettings(std::string_view bytes, const CodePage& codePage, EditorSettings& settings);
 
-/// Writes the record at the start of the file; what a longer file holds behind it stays.
+/// Writes the record at the start of the file; what a longer file holds behind it stays. One that cannot be read is
+/// left as it is, which is a failure.
 Failure SaveSettings(FileSystem& files, const CodePage& codePage, const std::string& path,
                      const EditorSettings& settings);
 

@@ -15,19 +15,21 @@ Failure TableStore::open(const std::string& folder)
     m_table.release();
     m_path.clear();
     m_known.clear();
-    const std::string path = existingName(folder + "Stringtable.csv");
+    Failure failure;
+    const std::string path = existingName(folder + "Stringtable.csv", failure);
     if (!m_files.fileExists(path))
-        return {};
+        return failure;
     const Outcome<std::string> text = read(path);
     if (!text)
         return text.reason();
     takeIn(path, *text);
-    return {};
+    return failure;
 }
 
 Failure TableStore::save(const std::string& path)
 {
-    const std::string target = existingName(path);
+    Failure unseen;
+    const std::string target = existingName(path, unseen);
     const bool exists = m_files.fileExists(target);
     if (exists) {
         const Outcome<std::string> text = read(target);
@@ -44,20 +46,27 @@ Failure TableStore::save(const std::string& path)
     m_path = target;
     m_known = m_texts.codePage().keepable(wanted);
     m_table.written();
-    return {};
+    return unseen;
 }
 
 /// The path, or that of a file beside it whose name differs in letter case only: authors bring their folders from
-/// file systems that take both for the same file.
-std::string TableStore::existingName(const std::string& path) const
+/// file systems that take both for the same file. Where the folder cannot be looked into, which is a failure, the
+/// path itself.
+std::string TableStore::existingName(const std::string& path, Failure& failure) const
 {
     const std::string folder = FolderOf(path);
-    const Outcome<std::vector<std::string>> names = m_files.listFiles(folder);
-    if (!names || m_files.fileExists(path))
-        return path;
     const std::string name = FileNameOf(path);
-    const auto found = std::find_if(names->begin(), names->end(),
-                                    [&](const std::string& other) { return equalIgnoringCase(other, name); });
+    const auto isName = [&](const std::string& other) { return equalIgnoringCase(other, name); };
+    for (const std::string& known : {path, m_path}) {
+        if (FolderOf(known) == folder && isName(FileNameOf(known)) && m_files.fileExists(known))
+            return known;
+    }
+    const Outcome<std::vector<std::string>> names = m_files.listFiles(folder);
+    if (!names) {
+        failure = names.reason();
+        return path;
+    }
+    const auto found = std::find_if(names->begin(), names->end(), isName);
     return found == names->end() ? path : folder + *found;
 }
 

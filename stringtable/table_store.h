@@ -31,7 +31,7 @@ public:
     Failure save(const std::string& path);
 
 private:
-    std::string existingName(const std::string& path) const;
+    std::string existingName(const std::string& path, Failure& failure) const;
     Outcome<std::string> read(const std::string& path) const;
     void takeIn(const std::string& path, const std::string& text);
 

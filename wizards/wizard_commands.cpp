@@ -20,7 +20,6 @@ namespace {
 
 constexpr std::size_t askPatchClassNameText = 59;
 constexpr std::size_t askCopyText = 74;
-constexpr const char* notSaved = "the open document could not be saved, so no new add-on was started";
 
 /// Saves the document until it has a path; the author cannot get round choosing one.
 void saveUntilThereIsAPath(Context& context)
@@ -110,7 +109,7 @@ ClassBlock blockOf(Context& context, const ClassOrder& order)
 Failures writeClasses(Context& context, const ClassOrder& order)
 {
     if (order.target == AddonTarget::NewAddon && !chooseNewPath(context))
-        return {notSaved};
+        return {}; // The save has told why.
     std::vector<FileCopy> copies;
     {
         const DocumentChange change(context.host);
@@ -132,7 +131,7 @@ Failures writeClasses(Context& context, const ClassOrder& order)
 Failures writeVehicle(Context& context, const VehicleOrder& order)
 {
     if (order.target == AddonTarget::NewAddon && !chooseNewPath(context))
-        return {notSaved};
+        return {}; // The save has told why.
     const DocumentChange change(context.host);
     if (order.target == AddonTarget::NewAddon)
         startNewAddon(context);

@@ -19,19 +19,27 @@ public:
     std::set<std::string> unwritable; ///< Paths that refuse to be written.
     int writes = 0;
 
+    mutable int operations = 0;                           ///< Readings, writings, copyings and listings so far.
+    mutable std::string failed;                           ///< What the failing operation was.
+    int failing = 0;                                      ///< The operation, counted from 1, that fails; 0: none.
+    std::map<std::string, std::set<std::string>> written; ///< All that was ever written, by path.
+
     bool fileExists(const std::string& path) const override { return files.contains(plain(path)); }
 
     Outcome<std::string> readBytes(const std::string& path) const override
     {
+        if (fails("reading " + path))
+            return Outcome<std::string>::failed(path + ": not readable");
         const auto found = files.find(plain(path));
         return found == files.end() ? Outcome<std::string>::failed(path + ": no such file") : found->second;
     }
 
     Failure writeBytes(const std::string& path, std::string_view bytes) override
     {
-        if (unwritable.contains(plain(path)))
+        if (fails("writing " + path) || unwritable.contains(plain(path)))
             return path + ": not writable";
         files[plain(path)] = std::string(bytes);
+        written[plain(path)].emplace(bytes);
         ++writes;
         return {};
     }
@@ -53,8 +61,19 @@ public:
     }
 
 private:
-    std::vector<std::string> entries(const std::string& folder, bool folders) const
+    /// Counts an operation; true for the one that is to fail.
+    bool fails(const std::string& operation) const
     {
+        const bool fault = ++operations == failing;
+        if (fault)
+            failed = operation;
+        return fault;
+    }
+
+    Outcome<std::vector<std::string>> entries(const std::string& folder, bool folders) const
+    {
+        if (fails("listing " + folder))
+            return Outcome<std::vector<std::string>>::failed(folder + ": not readable");
         std::set<std::string> names;
         const std::string prefix = plain(folder + "/");
         for (const auto& [path, bytes] : files) {
@@ -62,7 +81,7 @@ private:
             if (path.starts_with(prefix) && (end != std::string::npos) == folders)
                 names.insert(path.substr(prefix.size(), end - prefix.size()));
         }
-        return {names.begin(), names.end()};
+        return std::vector<std::string>(names.begin(), names.end());
     }
 
     static std::string plain(const std::string& path)
