@@ -10,6 +10,7 @@
 #include <QFontInfo>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
+#include <Qsci/qscicommandset.h>
 
 namespace kitwright {
 
@@ -37,6 +38,8 @@ ScintillaControl::ScintillaControl(QWidget* parent) : QsciScintilla(parent)
     setPaper(Qt::white);
     setCaretLineVisible(true);
     setCaretLineBackgroundColor(QColor(0xF3, 0xF6, 0xFA));
+    // The desktop's own key for redo, beside Ctrl+Y.
+    standardCommands()->find(QsciCommand::Redo)->setAlternateKey((Qt::CTRL | Qt::SHIFT | Qt::Key_Z).toCombined());
     setScrollWidth(1);
     setScrollWidthTracking(true);
 
