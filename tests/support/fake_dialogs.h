@@ -55,7 +55,8 @@ public:
 private:
     static std::string parts(const FileDialog& dialog)
     {
-        return dialog.filter + ", " + dialog.defaultExtension + ", " + dialog.fileName + ", " + dialog.title;
+        return "[" + dialog.filter + "] [" + dialog.defaultExtension + "] [" + dialog.fileName + "] ["
+             + dialog.title + "]";
     }
 
     void note(const std::string& line)

@@ -57,7 +57,9 @@ public:
 
     Outcome<std::vector<std::string>> listFolders(const std::string& folder) const override
     {
-        return entries(folder, true);
+        std::vector<std::string> names = entries(folder, true);
+        std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
+        return names;
     }
 
 private:

@@ -41,16 +41,17 @@ RunningApplication::RunningApplication() : m_texts(files, windows1250())
     files.files = shipped;
 }
 
-void RunningApplication::start(const std::function<void(QWidget&)>& atChooser)
+bool RunningApplication::start(const std::function<void(QWidget&)>& atChooser)
 {
     m_application.reset();
     m_application = std::make_unique<Application>(Desktop{files, m_texts, dialogs, launcher}, "/program");
-    withModal([this] { m_application->start(); }, atChooser);
+    const bool chooserCame = withModal([this] { m_application->start(); }, atChooser);
     QWidget& main = m_application->mainWindow();
     m_application->mainWindow().showFitted();
     main.activateWindow();
     if (!QTest::qWaitForWindowActive(&main))
         throw std::runtime_error("the main window does not become active");
+    return chooserCame;
 }
 
 void RunningApplication::startWith(const std::string& languageFile)

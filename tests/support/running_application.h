@@ -39,8 +39,8 @@ public:
     std::string& file(const std::string& path) { return files.files[path]; }
 
     /// Ends the program if it runs, starts it anew on the same files and shows its main window. `atChooser` gets the
-    /// language chooser of a first start, which is closed after it.
-    void start(const std::function<void(QWidget&)>& atChooser = [](QWidget&) {});
+    /// language chooser of a first start, which is closed after it; true when it came.
+    bool start(const std::function<void(QWidget&)>& atChooser = [](QWidget&) {});
 
     /// Starts with default settings and the language of a file.
     void startWith(const std::string& languageFile = {});

@@ -11,8 +11,12 @@
 #include <QAction>
 #include <QBuffer>
 #include <QComboBox>
+#include <QHelpEvent>
 #include <QImage>
+#include <QMainWindow>
+#include <QToolTip>
 #include <QTreeView>
+#include <QWindow>
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -70,25 +74,59 @@ QByteArray propertyOf(const QObject& object, const std::string& path)
     return "windowTitle";
 }
 
-QString shown(const QAbstractItemView& view, const std::string& property)
+/// The entries of a menu, "-" in front of a line.
+QStringList entries(const QWidget& menu)
 {
-    if (property == "entries")
-        return entries(view).join(", ");
-    return view.currentIndex().data(property == "tip" ? Qt::ToolTipRole : Qt::DisplayRole).toString();
+    QStringList all;
+    for (const QAction* action : menu.actions())
+        all += (action->isSeparator() ? "-" : "") + action->objectName();
+    return all;
+}
+
+/// The tool tip that the mouse finds on the current entry.
+QString tip(const QAbstractItemView& view)
+{
+    const QPoint place = view.visualRect(view.currentIndex()).center();
+    QToolTip::showText({}, QStringLiteral("none"));
+    QHelpEvent asks(QEvent::ToolTip, place, view.viewport()->mapToGlobal(place));
+    QCoreApplication::sendEvent(view.viewport(), &asks);
+    return QToolTip::text();
 }
 
 /// A property as text; of a picture, how many times as wide as high it is.
 QString shown(const QObject& object, const std::string& path)
 {
     const std::string property = behindColon(path);
-    const auto* view = qobject_cast<const QAbstractItemView*>(&object);
-    if (view && (property.empty() || property == "entries" || property == "tip"))
-        return shown(*view, property);
+    if (const auto* view = qobject_cast<const QAbstractItemView*>(&object)) {
+        if (property == "entries")
+            return entries(*view).join(", ");
+        if (property == "tip")
+            return tip(*view);
+        if (property.empty())
+            return view->currentIndex().data().toString();
+    }
+    if (property == "entries")
+        return entries(dynamic_cast<const QWidget&>(object)).join(", ");
     const QVariant value = object.property(propertyOf(object, path));
     if (value.typeId() != QMetaType::QPixmap)
         return value.toString();
     const auto picture = value.value<QPixmap>();
     return picture.isNull() ? QString() : QString::number(1.0 * picture.width() / picture.height(), 'f', 1);
+}
+
+/// Clicks a control with the mouse, a button at its left end, where a tick box has its box.
+void clickControl(QWidget& control)
+{
+    auto* button = qobject_cast<QAbstractButton*>(&control);
+    if (button && !button->isVisible())
+        return button->click();
+    const QPoint leftEnd(control.height() / 2, control.height() / 2);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, button ? leftEnd : control.rect().center());
+}
+
+std::uint32_t bgr(const QColor& colour)
+{
+    return static_cast<std::uint32_t>(colour.blue() << 16 | colour.green() << 8 | colour.red());
 }
 
 std::string picture(const std::string& size)
@@ -107,6 +145,8 @@ std::string picture(const std::string& size)
 Session::Session()
     : m_acts{
           {"start", [this](Text language, Text) { app.startWith(language); }},
+          {"restart", [this](Text, Text) { restart(); }}, // With the settings that the disk holds.
+          {"quit", [this](Text path, Text) { quit(path); }},
           {"put", [this](Text path, Text text) { app.file(path) = windows1250().encode(text); }},
           {"put-bytes", [this](Text path, Text bytes) { app.file(path) = bytes; }},
           {"put-picture", [this](Text path, Text size) { app.file(path) = picture(size); }},
@@ -173,7 +213,7 @@ void Session::doStep(const Step& step)
         perform(step, m_looks);
 }
 
-/// Clicks what opens a modal window, in which the inner steps are done.
+/// Clicks what opens a modal window, in which the inner steps are done. The program opens one when it first starts.
 void Session::open(const Step& step)
 {
     QWidget* opened = nullptr;
@@ -181,8 +221,28 @@ void Session::open(const Step& step)
         opened = &modal;
         m_onlyActs ? act(step.inner) : play(step.inner);
     };
-    RunningApplication::withModal([&] { click(step.cells.at(1), {}); }, inside);
-    require(opened && opened == &widget(step.cells.at(2)), "the window does not open");
+    if (step.cells.at(1) == "program")
+        app.start(inside);
+    else
+        RunningApplication::withModal([&] { click(step.cells.at(1), {}); }, inside);
+    require(opened && opened->objectName() == toQt(step.cells.at(2)), "the window does not open");
+}
+
+void Session::restart()
+{
+    require(!app.start(), "a first start");
+}
+
+/// Clicks what ends the program, or closes the main window as the desktop does.
+void Session::quit(Text path)
+{
+    const auto act = [&] {
+        if (const auto* window = qobject_cast<QMainWindow*>(&object(path)))
+            window->windowHandle()->close();
+        else
+            click(path, {});
+    };
+    require(RunningApplication::endsBy(act), "the program does not end");
 }
 
 QObject& Session::object(Text path)
@@ -205,7 +265,7 @@ void Session::answer(Text dialog, Text answer)
     else if (dialog == "text")
         app.dialogs.textAnswers.push_back(answer);
     else if (dialog == "colour")
-        app.dialogs.colourAnswers.push_back(QColor(toQt(answer)).rgb() & 0xFFFFFF);
+        app.dialogs.colourAnswers.push_back(bgr(QColor(toQt(answer))));
     else
         app.dialogs.yesNoAnswers.push_back(answer == "yes");
 }
@@ -219,12 +279,11 @@ void Session::remove(Text path)
 
 void Session::click(Text path, Text text, bool twice)
 {
-    auto* view = qobject_cast<QAbstractItemView*>(&object(path));
     if (auto* action = qobject_cast<QAction*>(&object(path)))
         return action->trigger();
+    auto* view = qobject_cast<QAbstractItemView*>(&object(path));
     if (!view)
-        return widget(path).isVisible() ? QTest::mouseClick(&widget(path), Qt::LeftButton)
-                                        : dynamic_cast<QAbstractButton&>(widget(path)).click();
+        return clickControl(widget(path));
     const QModelIndex index = entry(*view, text);
     view->scrollTo(index);
     const QPoint point = view->visualRect(index).center();
@@ -276,6 +335,10 @@ std::string Session::seen(Text what)
         return app.state().CurrentFile;
     if (what == "addon")
         return app.state().PatchClassName;
+    if (what == "settings")
+        return QByteArray::fromStdString(encodeSettings(app.state().Settings, windows1250()))
+            .toHex(' ')
+            .toStdString();
     return fromQt(shown(object(what), what));
 }
 

@@ -30,6 +30,8 @@ private:
 
     void doStep(const Step& step);
     void open(const Step& step);
+    void restart();
+    void quit(Text path);
 
     QObject& object(Text path);
     QWidget& widget(Text path) { return dynamic_cast<QWidget&>(object(path)); }
