@@ -6,50 +6,35 @@
 #include "platform/dialogs.h"
 
 #include <deque>
+#include <map>
 #include <string>
-#include <vector>
 
 namespace kitwright::testing {
 
-/// Answers dialogs from queues and notes what was asked. An empty queue cancels. `log` tells all of it in order, a line
-/// each: what was asked, and the text or the parts of a file dialog, line ends in it as "\r" and "\n".
+/// Answers dialogs from queues and notes what was asked.
 class FakeDialogs final : public Dialogs {
 public:
-    std::deque<std::optional<std::string>> openAnswers;
-    std::deque<std::optional<std::string>> saveAnswers;
-    std::deque<std::optional<std::uint32_t>> colourAnswers;
-    std::deque<bool> yesNoAnswers;
-    std::deque<std::string> textAnswers;
+    /// What the next dialogs of a kind are answered: "open" and "save" by a path, "colour" by "#rrggbb", "yes/no" by
+    /// "yes" or "no", "text" by a text. "cancel" and an empty queue cancel.
+    std::map<std::string, std::deque<std::string>> answers;
 
-    std::vector<FileDialog> openAsked;
-    std::vector<std::string> questions;
-    std::vector<std::string> prompts;
+    /// All that was asked and told, a line each: the kind, and the text or the parts of a file dialog, line ends in it
+    /// as "\r" and "\n".
     std::string log;
 
-    std::optional<std::string> openFile(const FileDialog& dialog) override
-    {
-        openAsked.push_back(dialog);
-        return next("open " + parts(dialog), openAnswers);
-    }
-
-    std::optional<std::string> saveFile(const FileDialog& dialog) override
-    {
-        return next("save " + parts(dialog), saveAnswers);
-    }
-
-    std::optional<std::uint32_t> chooseColour() override { return next("colour", colourAnswers); }
+    std::optional<std::string> openFile(const FileDialog& dialog) override { return ask("open", parts(dialog)); }
+    std::optional<std::string> saveFile(const FileDialog& dialog) override { return ask("save", parts(dialog)); }
     void showMessage(const std::string& text) override { note("tell " + text); }
+    bool askYesNo(const std::string& question) override { return ask("yes/no", question) == "yes"; }
+    std::string askText(const std::string& prompt) override { return ask("text", prompt).value_or(""); }
 
-    bool askYesNo(const std::string& question) override
+    std::optional<std::uint32_t> chooseColour() override
     {
-        questions.push_back(question);
-        return next("yes/no " + question, yesNoAnswers);
-    }
-
-    std::string askText(const std::string& prompt) override
-    {
-        prompts.push_back(prompt);
-        return next("text " + prompt, textAnswers);
+        const std::optional<std::string> chosen = ask("colour", {});
+        if (!chosen)
+            return {};
+        const unsigned long rgb = std::stoul(chosen->substr(1), nullptr, 16);
+        return static_cast<std::uint32_t>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16);
     }
 
 private:
@@ -66,15 +51,15 @@ private:
         log += '\n';
     }
 
-    template <class Answer>
-    Answer next(const std::string& asked, std::deque<Answer>& answers)
+    std::optional<std::string> ask(const std::string& kind, const std::string& text)
     {
-        note(asked);
-        if (answers.empty())
-            return Answer();
-        Answer answer = answers.front();
-        answers.pop_front();
-        return answer;
+        note(kind + ' ' + text);
+        std::deque<std::string>& queue = answers[kind];
+        if (queue.empty())
+            return {};
+        const std::string answer = queue.front();
+        queue.pop_front();
+        return answer == "cancel" ? std::nullopt : std::optional(answer);
     }
 };
 

@@ -5,11 +5,11 @@
 
 #include "platform/windows_1250.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDir>
 #include <QDirIterator>
-#include <QGroupBox>
 #include <QMenu>
 #include <QTest>
 #include <QTimer>
@@ -70,20 +70,16 @@ QWidget& RunningApplication::window(std::string_view name)
     throw std::out_of_range(std::string(name));
 }
 
-std::string RunningApplication::captionOf(std::string_view name, std::string_view windowName)
+void RunningApplication::click(QObject& object)
 {
-    const auto& object = control<QObject>(name, windowName);
-    const bool titled = qobject_cast<const QMenu*>(&object) || qobject_cast<const QGroupBox*>(&object);
-    return fromQt(object.property(titled ? "title" : "text").toString());
-}
-
-void RunningApplication::use(std::string_view name)
-{
-    auto& object = control<QObject>(name);
     if (auto* entry = qobject_cast<QAction*>(&object))
-        entry->trigger();
-    else
-        QTest::mouseClick(&dynamic_cast<QWidget&>(object), Qt::LeftButton);
+        return entry->trigger();
+    auto& control = dynamic_cast<QWidget&>(object);
+    auto* button = qobject_cast<QAbstractButton*>(&control);
+    if (button && !button->isVisible())
+        return button->click();
+    const QPoint leftEnd(control.height() / 2, control.height() / 2);
+    QTest::mouseClick(&control, Qt::LeftButton, {}, button ? leftEnd : control.rect().center());
 }
 
 bool RunningApplication::withModal(const std::function<void()>& open, const std::function<void(QWidget&)>& inside)

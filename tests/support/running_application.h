@@ -49,7 +49,6 @@ public:
     SharedState& state() { return m_application->state(); }
     RichTextBox& box() { return m_application->mainWindow().configedit(); }
     std::string text() { return std::string(box().text()); }
-    std::string caption() { return fromQt(m_application->mainWindow().windowTitle()); }
 
     /// A window, or a control of a window, by its name; throws when there is none. Other windows, which bear the same
     /// names inside, are not looked into.
@@ -66,11 +65,12 @@ public:
         throw std::out_of_range(std::string(windowName) + '.' + std::string(name));
     }
 
-    /// The caption that a control shows.
-    std::string captionOf(std::string_view name, std::string_view windowName = "fmrconfigedit");
+    /// Clicks a control with the mouse, a button at its left end, where a tick box has its box. Chooses a menu entry,
+    /// and presses a button that is not seen.
+    static void click(QObject& object);
 
-    /// Clicks a control of the main window with the mouse, or chooses a menu entry.
-    void use(std::string_view name);
+    /// Clicks a control of the main window.
+    void use(std::string_view name) { click(control<QObject>(name)); }
 
     /// Does what opens a modal window; `inside` gets that window, which is hidden after it if it is still there.
     /// False when no window came.

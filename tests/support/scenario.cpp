@@ -3,8 +3,6 @@
 
 #include "support/scenario.h"
 
-#include <gtest/gtest.h>
-
 #include <fstream>
 #include <iterator>
 #include <sstream>
@@ -124,18 +122,6 @@ std::vector<Cells> scenarioLines(const std::string& file)
     return lines;
 }
 
-void PrintTo(const Step& step, std::ostream* out)
-{
-    *out << step.place;
-    for (const std::string& cell : step.cells)
-        *out << ' ' << cell;
-}
-
-void PrintTo(const Story& story, std::ostream* out)
-{
-    *out << story.name;
-}
-
 std::vector<Story> storiesIn(const std::string& text, const std::string& place)
 {
     StoryReader reader(place);
@@ -155,28 +141,6 @@ std::vector<Story> readStories(const std::string& file)
 Steps readStory(const std::string& file, const std::string& name)
 {
     return named(readStories(file), name).steps;
-}
-
-void perform(const Step& step, const Verbs& verbs)
-{
-    const auto verb = verbs.find(step.cells[0]);
-    if (verb == verbs.end())
-        throw std::runtime_error("no verb " + step.cells[0]);
-    Cells cells = step.cells;
-    cells.resize(3);
-    verb->second(cells[1], cells[2]);
-}
-
-void play(const Steps& steps, const std::function<void(const Step&)>& perform)
-{
-    for (const Step& step : steps) {
-        SCOPED_TRACE(::testing::PrintToString(step));
-        try {
-            perform(step);
-        } catch (const std::exception& reason) {
-            ADD_FAILURE() << reason.what();
-        }
-    }
 }
 
 std::string scenarioText(const std::string& file)

@@ -7,7 +7,6 @@
 #include "support/style_marks.h"
 #include "support/typing.h"
 
-#include <QAbstractButton>
 #include <QAction>
 #include <QBuffer>
 #include <QComboBox>
@@ -114,21 +113,6 @@ QString shown(const QObject& object, const std::string& path)
     return picture.isNull() ? QString() : QString::number(1.0 * picture.width() / picture.height(), 'f', 1);
 }
 
-/// Clicks a control with the mouse, a button at its left end, where a tick box has its box.
-void clickControl(QWidget& control)
-{
-    auto* button = qobject_cast<QAbstractButton*>(&control);
-    if (button && !button->isVisible())
-        return button->click();
-    const QPoint leftEnd(control.height() / 2, control.height() / 2);
-    QTest::mouseClick(&control, Qt::LeftButton, {}, button ? leftEnd : control.rect().center());
-}
-
-std::uint32_t bgr(const QColor& colour)
-{
-    return static_cast<std::uint32_t>(colour.blue() << 16 | colour.green() << 8 | colour.red());
-}
-
 std::string picture(const std::string& size)
 {
     QByteArray bytes;
@@ -152,7 +136,7 @@ Session::Session()
           {"put-picture", [this](Text path, Text size) { app.file(path) = picture(size); }},
           {"lock", [this](Text path, Text) { app.files.unwritable.insert(path); }},
           {"remove", [this](Text path, Text) { remove(path); }},
-          {"answer", [this](Text dialog, Text text) { answer(dialog, text); }},
+          {"answer", [this](Text dialog, Text text) { app.dialogs.answers[dialog].push_back(text); }},
           {"load", [this](Text text, Text) { loadMarked(app.box(), text); }},
           {"in", [this](Text window, Text) { m_window = window; }},
           {"click", [this](Text path, Text text) { click(path, text); }},
@@ -174,7 +158,6 @@ Session::Session()
           {"see", [this](Text what, Text value) { EXPECT_EQ(seen(what), value); }},
           {"enabled", [this](Text names, Text) { expectEnabled(names, true); }},
           {"disabled", [this](Text names, Text) { expectEnabled(names, false); }},
-          {"expected", [this](Text file, Text) { EXPECT_EQ(app.text(), scenarioText(file)); }},
           {"stored", [this](Text path, Text text) { EXPECT_EQ(stored(path), text); }},
           {"copied", [this](Text from, Text to) { EXPECT_EQ(stored(to), stored(from)); }},
           {"missing", [this](Text path, Text) { EXPECT_FALSE(app.files.fileExists(path)); }},
@@ -189,7 +172,14 @@ Session::Session()
 void Session::play(const Steps& steps)
 {
     m_onlyActs = false;
-    testing::play(steps, [this](const Step& step) { doStep(step); });
+    for (const Step& step : steps) {
+        SCOPED_TRACE(step.place + ": " + step.cells[0] + ' ' + (step.cells.size() > 1 ? step.cells[1] : ""));
+        try {
+            doStep(step);
+        } catch (const std::exception& reason) {
+            ADD_FAILURE() << reason.what();
+        }
+    }
 }
 
 void Session::act(const Steps& steps)
@@ -205,12 +195,16 @@ void Session::act(const Steps& steps)
 
 void Session::doStep(const Step& step)
 {
-    if (step.cells[0] == "open")
+    Cells cells = step.cells;
+    cells.resize(3);
+    for (std::string& cell : cells)
+        cell = cell.starts_with('@') ? scenarioText(cell.substr(1)) : cell;
+    if (cells[0] == "open")
         open(step);
-    else if (m_acts.contains(step.cells[0]))
-        perform(step, m_acts);
+    else if (m_acts.contains(cells[0]))
+        m_acts.at(cells[0])(cells[1], cells[2]);
     else if (!m_onlyActs)
-        perform(step, m_looks);
+        m_looks.at(cells[0])(cells[1], cells[2]);
 }
 
 /// Clicks what opens a modal window, in which the inner steps are done. The program opens one when it first starts.
@@ -255,21 +249,6 @@ QObject& Session::object(Text path)
     return window ? *window : app.control<QObject>(name, m_window);
 }
 
-void Session::answer(Text dialog, Text answer)
-{
-    const auto chosen = answer == "cancel" ? std::nullopt : std::optional(answer);
-    if (dialog == "open")
-        app.dialogs.openAnswers.push_back(chosen);
-    else if (dialog == "save")
-        app.dialogs.saveAnswers.push_back(chosen);
-    else if (dialog == "text")
-        app.dialogs.textAnswers.push_back(answer);
-    else if (dialog == "colour")
-        app.dialogs.colourAnswers.push_back(bgr(QColor(toQt(answer))));
-    else
-        app.dialogs.yesNoAnswers.push_back(answer == "yes");
-}
-
 /// Removes a file, or a folder with all that is in it.
 void Session::remove(Text path)
 {
@@ -279,11 +258,9 @@ void Session::remove(Text path)
 
 void Session::click(Text path, Text text, bool twice)
 {
-    if (auto* action = qobject_cast<QAction*>(&object(path)))
-        return action->trigger();
     auto* view = qobject_cast<QAbstractItemView*>(&object(path));
     if (!view)
-        return clickControl(widget(path));
+        return RunningApplication::click(object(path));
     const QModelIndex index = entry(*view, text);
     view->scrollTo(index);
     const QPoint point = view->visualRect(index).center();

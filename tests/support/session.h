@@ -12,7 +12,8 @@ namespace kitwright::testing {
 
 /// An author's session with the whole program, told in steps. A control is written as "window.name", or by its name
 /// alone when it is one of the window that "in" named last, the main window at first. A property of it may follow
-/// behind a colon. Text N of the language file /numbers.lng is "text N".
+/// behind a colon; of a list, "entries" are all that it shows and "tip" is the tool tip of the current one. "@file" is the
+/// text of that file of tests/data. Text N of the language file /numbers.lng is "text N".
 class Session {
 public:
     Session();
@@ -25,8 +26,13 @@ public:
     /// Does the steps that act; what cannot be done, as what it needs is not there, is left out.
     void act(const Steps& steps);
 
+    /// What the program shows of a control, or of the "document", its style "marks", the "file" that it is in, the
+    /// "addon" that it makes and the "settings" record.
+    std::string seen(const std::string& what);
+
 private:
     using Text = const std::string&;
+    using Verbs = std::map<std::string, std::function<void(Text target, Text text)>>;
 
     void doStep(const Step& step);
     void open(const Step& step);
@@ -37,7 +43,6 @@ private:
     QWidget& widget(Text path) { return dynamic_cast<QWidget&>(object(path)); }
     QAbstractItemView& list(Text path) { return dynamic_cast<QAbstractItemView&>(object(path)); }
 
-    void answer(Text dialog, Text answer);
     void remove(Text path);
     void click(Text path, Text text, bool twice = false);
     void choose(Text path, Text text);
@@ -46,7 +51,6 @@ private:
     void activate(Text window);
     void resize(Text window, Text size);
 
-    std::string seen(Text what);
     std::string stored(Text path);
     std::string asked();
     void expectEnabled(Text names, bool enabled);
