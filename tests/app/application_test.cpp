@@ -7,6 +7,7 @@
 #include "platform/windows_1250.h"
 #include "support/session.h"
 
+#include <QApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QTreeWidget>
@@ -21,6 +22,14 @@ bool fits(const QWidget& control)
     const auto* label = qobject_cast<const QLabel*>(&control);
     return label && label->wordWrap() ? label->height() >= label->heightForWidth(label->width())
                                       : control.width() >= control.sizeHint().width();
+}
+
+QList<QRect> places(const QWidget& parent)
+{
+    QList<QRect> all;
+    for (const QWidget* control : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+        all << control->geometry();
+    return all;
 }
 
 } // namespace
@@ -62,6 +71,26 @@ TEST(Start, ShowsTheLinesOfTheLanguageInControlsThatTheyFit)
             EXPECT_TRUE(!widget || qobject_cast<const QMenu*>(widget) || fits(*widget));
         }
     }
+}
+
+TEST(MainWindow, KeepsTheSharesOfItsControlsThroughAnyResizes)
+{
+    testing::RunningApplication app;
+    app.startWith();
+    QWidget& window = app.program().mainWindow();
+    QWidget& parent = app.control("centralwidget");
+    const QSize first = window.size();
+    const QList<QRect> before = places(parent);
+    window.resize(first * 1.5);
+    EXPECT_NE(places(parent), before);
+    for (int size = 150; size < 1400; size += 37)
+        window.resize(size, 1600 - size);
+    parent.resize(0, 0);
+    window.showMinimized();
+    window.showNormal();
+    window.resize(first);
+    QApplication::processEvents();
+    EXPECT_EQ(places(parent), before);
 }
 
 } // namespace kitwright

@@ -11,25 +11,25 @@ namespace kitwright::testing {
 namespace {
 
 /// The sessions of tests/data/sessions, named by their file and their heading.
-std::vector<Story> sessions()
+Stories sessions()
 {
-    std::vector<Story> all;
+    Stories all;
     for (const QString& file : QDir(QStringLiteral(KITWRIGHT_TOP "/tests/data/sessions")).entryList(QDir::Files)) {
         const std::string stem = fromQt(file.section('.', 0, 0));
-        for (Story& story : readStories("sessions/" + fromQt(file)))
-            all.push_back({story.name.empty() ? stem : stem + '_' + story.name, std::move(story.steps)});
+        for (const auto& [name, steps] : readStories("sessions/" + fromQt(file)))
+            all[name.empty() ? stem : stem + '_' + name] = steps;
     }
     return all;
 }
 
-struct Sessions : ::testing::TestWithParam<Story> {};
+struct Sessions : ::testing::TestWithParam<Stories::value_type> {};
 
 INSTANTIATE_TEST_SUITE_P(Author, Sessions, ::testing::ValuesIn(sessions()),
-                         [](const auto& session) { return session.param.name; });
+                         [](const auto& session) { return session.param.first; });
 
 TEST_P(Sessions, GoAsWritten)
 {
-    Session().play(GetParam().steps);
+    Session().play(GetParam().second);
 }
 
 } // namespace

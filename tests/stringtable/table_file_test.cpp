@@ -12,34 +12,35 @@ namespace kitwright {
 namespace {
 
 /// Every way of writing a record that one meets, in eight languages.
-struct HandWrittenTable : ::testing::Test {
-    const std::string file = testing::scenarioText("stringtable/hand_written.csv");
+std::string handWritten()
+{
+    return testing::scenarioText("stringtable/hand_written.csv");
+}
 
-    static StringTable read(const std::string& text)
-    {
-        StringTable table;
-        table.addLanguage("English");
-        table.addLanguage("Czech");
-        table.takeIn(parseTable(text));
-        return table;
-    }
-};
+StringTable tableOf(const std::string& text)
+{
+    StringTable table;
+    table.addLanguage("English");
+    table.addLanguage("Czech");
+    table.takeIn(parseTable(text));
+    return table;
+}
 
-TEST_F(HandWrittenTable, IsGivenBackUnchanged)
+TEST(HandWrittenTable, IsGivenBackUnchanged)
 {
     for (const char* lineEnd : {"\r\n", "\n", "\r"}) {
-        const std::string text = std::regex_replace(file, std::regex("\r\n"), lineEnd);
-        EXPECT_EQ(read(text).StringCount(), 201u);
-        EXPECT_EQ(read(text).text(), text);
+        const std::string text = std::regex_replace(handWritten(), std::regex("\r\n"), lineEnd);
+        EXPECT_EQ(tableOf(text).StringCount(), 201u);
+        EXPECT_EQ(tableOf(text).text(), text);
     }
 }
 
-TEST_F(HandWrittenTable, ChangesOneRecordWhereOneTextChanged)
+TEST(HandWrittenTable, ChangesOneRecordWhereOneTextChanged)
 {
     for (std::size_t index = 0; index < 201; index += 9) {
-        StringTable table = read(file);
+        StringTable table = tableOf(handWritten());
         table.setText(index, 2, "Fusil, \"grand\"");
-        std::vector<TableRecord> expected = tableLines(file);
+        std::vector<TableRecord> expected = tableLines(handWritten());
         for (TableRecord& line : expected) {
             if (!isTableRecord(line) || recordKey(line) != table.entry(index).Key)
                 continue;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "platform/dialogs.h"
+#include "platform/program_launcher.h"
 
 #include <deque>
 #include <map>
@@ -11,15 +12,15 @@
 
 namespace kitwright::testing {
 
-/// Answers dialogs from queues and notes what was asked.
-class FakeDialogs final : public Dialogs {
+/// Answers dialogs from queues and notes what was asked. Programs are not started, but noted, too.
+class FakeDialogs final : public Dialogs, public ProgramLauncher {
 public:
     /// What the next dialogs of a kind are answered: "open" and "save" by a path, "colour" by "#rrggbb", "yes/no" by
     /// "yes" or "no", "text" by a text. "cancel" and an empty queue cancel.
     std::map<std::string, std::deque<std::string>> answers;
 
-    /// All that was asked and told, a line each: the kind, and the text or the parts of a file dialog, line ends in it
-    /// as "\r" and "\n".
+    /// All that was asked, told and started, a line each: the kind, and the text, the parts of a file dialog or the
+    /// program with its argument; line ends in it as "\r" and "\n".
     std::string log;
 
     std::optional<std::string> openFile(const FileDialog& dialog) override { return ask("open", parts(dialog)); }
@@ -35,6 +36,12 @@ public:
             return {};
         const unsigned long rgb = std::stoul(chosen->substr(1), nullptr, 16);
         return static_cast<std::uint32_t>((rgb & 0xFF) << 16 | (rgb & 0xFF00) | rgb >> 16);
+    }
+
+    Failure start(const std::string& program, const std::string& argument) override
+    {
+        note("start " + program + " [" + argument + "]");
+        return {};
     }
 
 private:

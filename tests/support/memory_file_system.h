@@ -17,7 +17,6 @@ class MemoryFileSystem final : public FileSystem {
 public:
     std::map<std::string, std::string> files;
     std::set<std::string> unwritable; ///< Paths that refuse to be written.
-    int writes = 0;
 
     mutable int operations = 0;                           ///< Readings, writings, copyings and listings so far.
     mutable std::string failed;                           ///< What the failing operation was.
@@ -40,7 +39,6 @@ public:
             return path + ": not writable";
         files[plain(path)] = std::string(bytes);
         written[plain(path)].emplace(bytes);
-        ++writes;
         return {};
     }
 

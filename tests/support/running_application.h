@@ -14,18 +14,6 @@
 
 namespace kitwright::testing {
 
-/// Notes what it is asked to start, and starts nothing.
-class RecordingLauncher final : public ProgramLauncher {
-public:
-    std::string log; ///< A line for each: the program and, in brackets, its argument.
-
-    Failure start(const std::string& program, const std::string& argument) override
-    {
-        log += "start " + program + " [" + argument + "]\n";
-        return {};
-    }
-};
-
 /// The whole program with the shipped data files, on files in memory and with dialogs that are answered by queues.
 /// Nothing runs until `start`; the files may be arranged before.
 class RunningApplication {
@@ -34,7 +22,6 @@ public:
 
     MemoryFileSystem files;
     FakeDialogs dialogs;
-    RecordingLauncher launcher;
 
     std::string& file(const std::string& path) { return files.files[path]; }
 

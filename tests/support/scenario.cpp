@@ -24,15 +24,6 @@ char escaped(const std::string& line, std::size_t& at)
     return known == std::string::npos ? letter : "\r\n\t\0"[known];
 }
 
-const Story& named(const std::vector<Story>& stories, const std::string& name)
-{
-    for (const Story& story : stories) {
-        if (story.name == name)
-            return story;
-    }
-    throw std::runtime_error("no story " + name);
-}
-
 Cells cellsOf(const std::string& line)
 {
     Cells cells;
@@ -53,7 +44,7 @@ class StoryReader {
 public:
     explicit StoryReader(std::string place) : m_place(std::move(place)) {}
 
-    std::vector<Story> stories; ///< What stands in front of the first heading has no name, shared steps their mark.
+    Stories stories; ///< What stands in front of the first heading has no name, shared steps have their mark.
 
     void take(const std::string& line)
     {
@@ -73,8 +64,9 @@ public:
 private:
     void begin(const std::string& name)
     {
-        stories.push_back({name, {}});
-        m_levels = {&stories.back().steps};
+        if (stories.contains(name))
+            throw std::runtime_error(m_place + ": a second " + name);
+        m_levels = {&stories[name]};
     }
 
     void takeText(const std::string& line)
@@ -94,7 +86,7 @@ private:
         if (cells[0] == "end") {
             m_levels.pop_back();
         } else if (cells[0] == "after") {
-            const Steps shared = named(stories, std::string(sharedMark) + cells.at(1)).steps;
+            const Steps& shared = stories.at(std::string(sharedMark) + cells.at(1));
             steps.insert(steps.end(), shared.begin(), shared.end());
         } else {
             steps.push_back({m_place + ':' + std::to_string(m_number), std::move(cells), {}});
@@ -122,25 +114,20 @@ std::vector<Cells> scenarioLines(const std::string& file)
     return lines;
 }
 
-std::vector<Story> storiesIn(const std::string& text, const std::string& place)
+Stories storiesIn(const std::string& text, const std::string& place)
 {
     StoryReader reader(place);
     std::istringstream lines(text);
     for (std::string line; std::getline(lines, line);)
         reader.take(line);
     std::erase_if(reader.stories,
-                  [](const Story& story) { return story.name.starts_with(StoryReader::sharedMark); });
+                  [](const auto& story) { return story.first.starts_with(StoryReader::sharedMark); });
     return reader.stories;
 }
 
-std::vector<Story> readStories(const std::string& file)
+Stories readStories(const std::string& file)
 {
     return storiesIn(scenarioText(file), file);
-}
-
-Steps readStory(const std::string& file, const std::string& name)
-{
-    return named(readStories(file), name).steps;
 }
 
 std::string scenarioText(const std::string& file)

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -37,27 +38,22 @@ struct Step {
     std::string place; ///< The file and the line that it was read from.
     Cells cells;
     std::vector<Step> inner;
+
+    friend void PrintTo(const Step& step, std::ostream* out) { *out << step.place; }
 };
 
 using Steps = std::vector<Step>;
 
-struct Story {
-    std::string name;
-    Steps steps;
-
-    friend void PrintTo(const Story& story, std::ostream* out) { *out << story.name; }
-};
+/// Stories by their names.
+using Stories = std::map<std::string, Steps>;
 
 /// The stories of a text, whose place is told as `place`. A step is a line of cells; lines behind it that begin with
 /// "|" are one more cell, with CR LF between them and without escapes. "== Name" begins a story, "-- Name" steps that
 /// the stories below it do with "after Name". A text without stories is one, without a name.
-std::vector<Story> storiesIn(const std::string& text, const std::string& place);
+Stories storiesIn(const std::string& text, const std::string& place);
 
 /// The stories of tests/data/<file>.
-std::vector<Story> readStories(const std::string& file);
-
-/// The steps of one of them; throws when it is not there.
-Steps readStory(const std::string& file, const std::string& name);
+Stories readStories(const std::string& file);
 
 /// The bytes of tests/data/<file>.
 std::string scenarioText(const std::string& file);

@@ -7,11 +7,10 @@
 #include "support/style_marks.h"
 #include "support/typing.h"
 
+#include <QAbstractItemView>
 #include <QAction>
-#include <QBuffer>
 #include <QComboBox>
 #include <QHelpEvent>
-#include <QImage>
 #include <QMainWindow>
 #include <QToolTip>
 #include <QTreeView>
@@ -96,32 +95,56 @@ QString tip(const QAbstractItemView& view)
 QString shown(const QObject& object, const std::string& path)
 {
     const std::string property = behindColon(path);
-    if (const auto* view = qobject_cast<const QAbstractItemView*>(&object)) {
-        if (property == "entries")
-            return entries(*view).join(", ");
-        if (property == "tip")
-            return tip(*view);
-        if (property.empty())
-            return view->currentIndex().data().toString();
-    }
+    const auto* view = qobject_cast<const QAbstractItemView*>(&object);
     if (property == "entries")
-        return entries(dynamic_cast<const QWidget&>(object)).join(", ");
+        return (view ? entries(*view) : entries(dynamic_cast<const QWidget&>(object))).join(", ");
+    if (view && property == "tip")
+        return tip(*view);
+    if (view && property.empty())
+        return view->currentIndex().data().toString();
     const QVariant value = object.property(propertyOf(object, path));
-    if (value.typeId() != QMetaType::QPixmap)
-        return value.toString();
-    const auto picture = value.value<QPixmap>();
-    return picture.isNull() ? QString() : QString::number(1.0 * picture.width() / picture.height(), 'f', 1);
+    const QSizeF picture = value.value<QPixmap>().size();
+    return picture.isEmpty() ? value.toString() : QString::number(picture.width() / picture.height(), 'f', 1);
 }
 
-std::string picture(const std::string& size)
+/// Removes a file, or a folder with all that is in it.
+void remove(MemoryFileSystem& disk, const std::string& path)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImage image(std::stoi(size), std::stoi(size.substr(size.find('x') + 1)), QImage::Format_RGB32);
-    image.fill(Qt::red);
-    image.save(&buffer, "jpg");
-    return bytes.toStdString();
+    std::erase_if(disk.files,
+                  [&](const auto& file) { return file.first == path || file.first.starts_with(path + '/'); });
+}
+
+/// Chooses from the open box, the entry that it shows already as well.
+void choose(QObject& object, const std::string& text)
+{
+    auto& box = dynamic_cast<QComboBox&>(object);
+    box.showPopup();
+    box.view()->setCurrentIndex(entry(*box.view(), text));
+    QTest::keyClick(box.view(), Qt::Key_Return);
+}
+
+void tick(QObject& object, const std::string& text, Qt::CheckState state)
+{
+    auto& view = dynamic_cast<QAbstractItemView&>(object);
+    view.model()->setData(entry(view, text), state, Qt::CheckStateRole);
+}
+
+void press(QWidget& control, const std::string& keys)
+{
+    const QKeyCombination key = QKeySequence(toQt(keys))[0];
+    QTest::keyClick(&control, key.key(), key.keyboardModifiers());
+}
+
+void activate(QWidget& window)
+{
+    window.activateWindow();
+    require(QTest::qWaitFor([&] { return window.isActiveWindow(); }), "the window does not become active");
+}
+
+void resize(QWidget& window, const std::string& size)
+{
+    window.resize(std::stoi(size), std::stoi(size.substr(size.find('x') + 1)));
+    QCoreApplication::processEvents();
 }
 
 } // namespace
@@ -129,29 +152,29 @@ std::string picture(const std::string& size)
 Session::Session()
     : m_acts{
           {"start", [this](Text language, Text) { app.startWith(language); }},
-          {"restart", [this](Text, Text) { restart(); }}, // With the settings that the disk holds.
+          // With the settings that the disk holds.
+          {"restart", [this](Text, Text) { require(!app.start(), "a first start"); }},
           {"quit", [this](Text path, Text) { quit(path); }},
           {"put", [this](Text path, Text text) { app.file(path) = windows1250().encode(text); }},
           {"put-bytes", [this](Text path, Text bytes) { app.file(path) = bytes; }},
-          {"put-picture", [this](Text path, Text size) { app.file(path) = picture(size); }},
           {"lock", [this](Text path, Text) { app.files.unwritable.insert(path); }},
-          {"remove", [this](Text path, Text) { remove(path); }},
+          {"remove", [this](Text path, Text) { remove(app.files, path); }},
           {"answer", [this](Text dialog, Text text) { app.dialogs.answers[dialog].push_back(text); }},
           {"load", [this](Text text, Text) { loadMarked(app.box(), text); }},
           {"in", [this](Text window, Text) { m_window = window; }},
           {"click", [this](Text path, Text text) { click(path, text); }},
           {"doubleclick", [this](Text path, Text text) { click(path, text, true); }},
-          {"choose", [this](Text path, Text text) { choose(path, text); }},
-          {"tick", [this](Text path, Text text) { tick(path, text, Qt::Checked); }},
-          {"untick", [this](Text path, Text text) { tick(path, text, Qt::Unchecked); }},
+          {"choose", [this](Text path, Text text) { choose(object(path), text); }},
+          {"tick", [this](Text path, Text text) { tick(object(path), text, Qt::Checked); }},
+          {"untick", [this](Text path, Text text) { tick(object(path), text, Qt::Unchecked); }},
           {"type", [this](Text path, Text text) { typeKeys(widget(path), text); }},
-          {"press", [this](Text path, Text keys) { press(path, keys); }},
+          {"press", [this](Text path, Text keys) { press(widget(path), keys); }},
           {"set", [this](Text path, Text text) {
                object(path).setProperty(propertyOf(object(path), path), toQt(text));
            }},
           {"show", [this](Text window, Text) { widget(window).show(); }},
-          {"activate", [this](Text window, Text) { activate(window); }},
-          {"resize", [this](Text window, Text size) { resize(window, size); }},
+          {"activate", [this](Text window, Text) { activate(widget(window)); }},
+          {"resize", [this](Text window, Text size) { resize(widget(window), size); }},
           {"close", [this](Text window, Text) { widget(window).close(); }},
       },
       m_looks{
@@ -172,23 +195,23 @@ Session::Session()
 void Session::play(const Steps& steps)
 {
     m_onlyActs = false;
-    for (const Step& step : steps) {
-        SCOPED_TRACE(step.place + ": " + step.cells[0] + ' ' + (step.cells.size() > 1 ? step.cells[1] : ""));
-        try {
-            doStep(step);
-        } catch (const std::exception& reason) {
-            ADD_FAILURE() << reason.what();
-        }
-    }
+    doSteps(steps);
 }
 
 void Session::act(const Steps& steps)
 {
     m_onlyActs = true;
+    doSteps(steps);
+}
+
+void Session::doSteps(const Steps& steps)
+{
     for (const Step& step : steps) {
+        SCOPED_TRACE(step.place + ": " + step.cells[0] + ' ' + (step.cells.size() > 1 ? step.cells[1] : ""));
         try {
             doStep(step);
-        } catch (const std::exception&) { // What it needs is not there.
+        } catch (const std::exception& reason) {
+            EXPECT_TRUE(m_onlyActs) << reason.what();
         }
     }
 }
@@ -213,7 +236,7 @@ void Session::open(const Step& step)
     QWidget* opened = nullptr;
     const auto inside = [&](QWidget& modal) {
         opened = &modal;
-        m_onlyActs ? act(step.inner) : play(step.inner);
+        doSteps(step.inner);
     };
     if (step.cells.at(1) == "program")
         app.start(inside);
@@ -222,20 +245,12 @@ void Session::open(const Step& step)
     require(opened && opened->objectName() == toQt(step.cells.at(2)), "the window does not open");
 }
 
-void Session::restart()
-{
-    require(!app.start(), "a first start");
-}
-
 /// Clicks what ends the program, or closes the main window as the desktop does.
 void Session::quit(Text path)
 {
-    const auto act = [&] {
-        if (const auto* window = qobject_cast<QMainWindow*>(&object(path)))
-            window->windowHandle()->close();
-        else
-            click(path, {});
-    };
+    QObject& by = object(path);
+    auto* window = qobject_cast<QMainWindow*>(&by);
+    const auto act = [&] { window ? void(window->windowHandle()->close()) : RunningApplication::click(by); };
     require(RunningApplication::endsBy(act), "the program does not end");
 }
 
@@ -249,13 +264,6 @@ QObject& Session::object(Text path)
     return window ? *window : app.control<QObject>(name, m_window);
 }
 
-/// Removes a file, or a folder with all that is in it.
-void Session::remove(Text path)
-{
-    std::erase_if(app.files.files,
-                  [&](const auto& file) { return file.first == path || file.first.starts_with(path + '/'); });
-}
-
 void Session::click(Text path, Text text, bool twice)
 {
     auto* view = qobject_cast<QAbstractItemView*>(&object(path));
@@ -267,39 +275,6 @@ void Session::click(Text path, Text text, bool twice)
     QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, point);
     if (twice)
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, point);
-}
-
-/// Chooses from the open box, the entry that it shows already as well.
-void Session::choose(Text path, Text text)
-{
-    auto& box = dynamic_cast<QComboBox&>(object(path));
-    box.showPopup();
-    box.view()->setCurrentIndex(entry(*box.view(), text));
-    QTest::keyClick(box.view(), Qt::Key_Return);
-}
-
-void Session::tick(Text path, Text text, Qt::CheckState state)
-{
-    QAbstractItemView& view = list(path);
-    view.model()->setData(entry(view, text), state, Qt::CheckStateRole);
-}
-
-void Session::press(Text path, Text keys)
-{
-    const QKeyCombination key = QKeySequence(toQt(keys))[0];
-    QTest::keyClick(&widget(path), key.key(), key.keyboardModifiers());
-}
-
-void Session::activate(Text window)
-{
-    widget(window).activateWindow();
-    require(QTest::qWaitFor([&] { return widget(window).isActiveWindow(); }), "the window does not become active");
-}
-
-void Session::resize(Text window, Text size)
-{
-    widget(window).resize(std::stoi(size), std::stoi(size.substr(size.find('x') + 1)));
-    QCoreApplication::processEvents();
 }
 
 std::string Session::seen(Text what)
@@ -327,7 +302,7 @@ std::string Session::stored(Text path)
 
 std::string Session::asked()
 {
-    QStringList lines = toQt(std::exchange(app.dialogs.log, {}) + std::exchange(app.launcher.log, {})).split('\n');
+    QStringList lines = toQt(std::exchange(app.dialogs.log, {})).split('\n');
     lines.removeLast();
     return fromQt(lines.join("\r\n"));
 }

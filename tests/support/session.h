@@ -6,8 +6,6 @@
 #include "support/running_application.h"
 #include "support/scenario.h"
 
-#include <QAbstractItemView>
-
 namespace kitwright::testing {
 
 /// An author's session with the whole program, told in steps. A control is written as "window.name", or by its name
@@ -34,22 +32,15 @@ private:
     using Text = const std::string&;
     using Verbs = std::map<std::string, std::function<void(Text target, Text text)>>;
 
+    void doSteps(const Steps& steps);
     void doStep(const Step& step);
     void open(const Step& step);
-    void restart();
     void quit(Text path);
 
     QObject& object(Text path);
     QWidget& widget(Text path) { return dynamic_cast<QWidget&>(object(path)); }
-    QAbstractItemView& list(Text path) { return dynamic_cast<QAbstractItemView&>(object(path)); }
 
-    void remove(Text path);
     void click(Text path, Text text, bool twice = false);
-    void choose(Text path, Text text);
-    void tick(Text path, Text text, Qt::CheckState state);
-    void press(Text path, Text keys);
-    void activate(Text window);
-    void resize(Text window, Text size);
 
     std::string stored(Text path);
     std::string asked();

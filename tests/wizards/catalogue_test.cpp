@@ -14,10 +14,8 @@ namespace {
 
 TEST(Catalogue, BaseClassesAreSortedSoThatEachOneIsFound)
 {
-    std::vector<ListEntry> entries;
-    for (const char* name : {"riffle", "_own", "M60", "Žlutá", "AK47", "m16", "RiffleGrenade", "žaba"})
-        entries.push_back({name, 0, ""});
-    const BaseClassList list(entries);
+    const BaseClassList list(
+        listEntries("riffle\r\n_own\r\nM60\r\nŽlutá\r\nAK47\r\nm16\r\nRiffleGrenade\r\nžaba\r\n"));
     std::string sorted;
     for (int i = 0; i < list.count(); ++i) {
         sorted.append(list.textAt(i)) += ' ';
