@@ -63,8 +63,8 @@ TEST(Start, ShowsTheLinesOfTheLanguageInControlsThatTheyFit)
             session.app.window(window).show();
             const std::string line = fromQt(lines[static_cast<qsizetype>(number)]);
             EXPECT_NE(line, "");
-            const std::string name = std::string(window) + (control.empty() ? "" : ".") + std::string(control);
-            EXPECT_EQ(session.seen(name), line);
+            const std::string dot = control.empty() ? "" : ".";
+            EXPECT_EQ(session.seen(std::string(window) + dot + std::string(control)), line);
             if (control.empty())
                 continue;
             const auto* widget = qobject_cast<QWidget*>(&session.app.control<QObject>(control, window));

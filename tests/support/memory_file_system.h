@@ -55,9 +55,7 @@ public:
 
     Outcome<std::vector<std::string>> listFolders(const std::string& folder) const override
     {
-        std::vector<std::string> names = entries(folder, true);
-        std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
-        return names;
+        return entries(folder, true);
     }
 
 private:
@@ -70,6 +68,7 @@ private:
         return fault;
     }
 
+    /// The names of the files, or of the folders that are not hidden.
     Outcome<std::vector<std::string>> entries(const std::string& folder, bool folders) const
     {
         if (fails("listing " + folder))
@@ -78,7 +77,8 @@ private:
         const std::string prefix = plain(folder + "/");
         for (const auto& [path, bytes] : files) {
             const std::size_t end = path.find('/', prefix.size());
-            if (path.starts_with(prefix) && (end != std::string::npos) == folders)
+            const bool listed = (end != std::string::npos) == folders && !(folders && path[prefix.size()] == '.');
+            if (path.starts_with(prefix) && listed)
                 names.insert(path.substr(prefix.size(), end - prefix.size()));
         }
         return std::vector<std::string>(names.begin(), names.end());

@@ -35,7 +35,6 @@ public:
     Application& program() { return *m_application; }
     SharedState& state() { return m_application->state(); }
     RichTextBox& box() { return m_application->mainWindow().configedit(); }
-    std::string text() { return std::string(box().text()); }
 
     /// A window, or a control of a window, by its name; throws when there is none. Other windows, which bear the same
     /// names inside, are not looked into.

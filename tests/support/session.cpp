@@ -7,11 +7,9 @@
 #include "support/style_marks.h"
 #include "support/typing.h"
 
-#include <QAbstractItemView>
 #include <QAction>
 #include <QComboBox>
 #include <QHelpEvent>
-#include <QMainWindow>
 #include <QToolTip>
 #include <QTreeView>
 #include <QWindow>
@@ -249,7 +247,7 @@ void Session::open(const Step& step)
 void Session::quit(Text path)
 {
     QObject& by = object(path);
-    auto* window = qobject_cast<QMainWindow*>(&by);
+    auto* window = qobject_cast<fmrconfigedit*>(&by);
     const auto act = [&] { window ? void(window->windowHandle()->close()) : RunningApplication::click(by); };
     require(RunningApplication::endsBy(act), "the program does not end");
 }
@@ -280,7 +278,7 @@ void Session::click(Text path, Text text, bool twice)
 std::string Session::seen(Text what)
 {
     if (what == "document")
-        return app.text();
+        return std::string(app.box().text());
     if (what == "marks")
         return marked(app.box(), 0, app.state().Settings);
     if (what == "file")

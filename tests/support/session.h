@@ -10,8 +10,8 @@ namespace kitwright::testing {
 
 /// An author's session with the whole program, told in steps. A control is written as "window.name", or by its name
 /// alone when it is one of the window that "in" named last, the main window at first. A property of it may follow
-/// behind a colon; of a list, "entries" are all that it shows and "tip" is the tool tip of the current one. "@file" is the
-/// text of that file of tests/data. Text N of the language file /numbers.lng is "text N".
+/// behind a colon; of a list, "entries" are all that it shows and "tip" is the tool tip of the current one. "@file" is
+/// the text of that file of tests/data. Text N of the language file /numbers.lng is "text N".
 class Session {
 public:
     Session();

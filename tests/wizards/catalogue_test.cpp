@@ -4,6 +4,7 @@
 #include "wizards/catalogue.h"
 
 #include "support/scenario.h"
+#include "wizards/addon_copy.h"
 #include "wizards/node_level.h"
 
 #include <gtest/gtest.h>
@@ -34,6 +35,14 @@ TEST(NodeLevel, IsTheNumberBehindTheMarker)
         EXPECT_EQ(std::to_string(DejCislo(text, "Vnoreni")), number) << text;
     EXPECT_EQ(nodeLevel("4VNORENI2gunBeg"), 2);
     EXPECT_EQ(nodeLevel("4VNORENI12ndGun"), 12);
+}
+
+TEST(AddonCopy, FileAddedAgainIsCopiedOnceAndLast)
+{
+    CopyPlan plan;
+    for (const char* path : {"/a/x.jpg", "/b/x.jpg", "/a/x.jpg"})
+        plan.add(path);
+    EXPECT_EQ(plan.copies(), (std::vector<FileCopy>{{"/b/x.jpg", "x.jpg"}, {"/a/x.jpg", "x.jpg"}}));
 }
 
 } // namespace
