@@ -34,13 +34,13 @@ public:
         files.written.clear();
         for (const auto& [path, bytes] : files.files)
             files.written[path].insert(bytes);
-        documents = {session.app.text()};
+        documents = {session.seen("document")};
         files.operations = 0;
         files.failing = fault;
         reported = 0;
         session.act({when + 1, steps.end()});
         files.failing = 0;
-        documents.insert(session.app.text());
+        documents.insert(session.seen("document"));
     }
 
     /// The old and the new state of everything, as far as it differs from what another session had.
@@ -48,10 +48,11 @@ public:
     {
         for (const auto& [path, bytes] : files.files) {
             const auto known = sound.files.written.find(path);
-            EXPECT_TRUE(known != sound.files.written.end() && known->second.contains(bytes)) << path << ": " << ::testing::PrintToString(bytes);
+            EXPECT_TRUE(known != sound.files.written.end() && known->second.contains(bytes))
+                << path << ": " << ::testing::PrintToString(bytes);
         }
-        EXPECT_TRUE(sound.documents.contains(session.app.text())) << session.app.text();
-        EXPECT_TRUE(hasOnlyCrLf(session.app.text()));
+        EXPECT_TRUE(sound.documents.contains(session.seen("document"))) << session.seen("document");
+        EXPECT_TRUE(hasOnlyCrLf(session.seen("document")));
     }
 
     /// The author can go on, and bring the document to the disk.
@@ -59,7 +60,7 @@ public:
     {
         session.app.dialogs.answers["save"] = {"/after/config.cpp"};
         session.app.use("cmdsave");
-        EXPECT_EQ(windows1250().decode(files.files[session.app.state().CurrentFile]), session.app.text());
+        EXPECT_EQ(windows1250().decode(files.files[session.app.state().CurrentFile]), session.seen("document"));
     }
 
     Session session;
@@ -83,8 +84,7 @@ private:
     QtMessageHandler m_former;
 };
 
-INSTANTIATE_TEST_SUITE_P(Of, Faults, ::testing::ValuesIn(names()),
-                         [](const auto& story) { return story.param; });
+INSTANTIATE_TEST_SUITE_P(Of, Faults, ::testing::ValuesIn(names()), [](const auto& story) { return story.param; });
 
 TEST_P(Faults, LeaveTheOldOrTheNewAndALineOnStandardError)
 {

@@ -11,12 +11,6 @@
 namespace kitwright {
 namespace {
 
-/// Every way of writing a record that one meets, in eight languages.
-std::string handWritten()
-{
-    return testing::scenarioText("stringtable/hand_written.csv");
-}
-
 StringTable tableOf(const std::string& text)
 {
     StringTable table;
