@@ -4,6 +4,7 @@
 #include "app/browser_tree.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -47,7 +48,7 @@ void BrowserTree::showTree(const KeywordTree& tree)
     for (const TreeNode& node : tree.nodes()) {
         auto* item =
             node.parent == TreeNode::noParent ? new QTreeWidgetItem : new QTreeWidgetItem(items[node.parent]);
-        item->setText(0, toQt(node.text));
+        item->setText(0, shownText(node.text));
         item->setData(0, nodeRole, static_cast<int>(items.size()));
         if (node.isHeading())
             item->setFont(0, headingFont);
@@ -79,7 +80,7 @@ bool BrowserTree::viewportEvent(QEvent* event)
         return QTreeWidget::viewportEvent(event);
     const auto* help = static_cast<const QHelpEvent*>(event);
     if (const QTreeWidgetItem* item = itemAt(help->pos()))
-        QToolTip::showText(help->globalPos(), pathOf(item), viewport(), visualItemRect(item));
+        QToolTip::showText(help->globalPos(), toolTipText(fromQt(pathOf(item))), viewport(), visualItemRect(item));
     else
         QToolTip::hideText();
     return true;

@@ -4,6 +4,7 @@
 #include "app/index_window.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 #include "ui_index_window.h"
 
 #include <QCoreApplication>
@@ -32,7 +33,7 @@ void frmrejstrik2::showKeywords()
     QStringList texts;
     texts.reserve(m_keywords.count());
     for (int i = 0; i < m_keywords.count(); ++i)
-        texts << toQt(m_keywords.textAt(i));
+        texts << shownText(m_keywords.textAt(i));
     m_ui->List1->clear();
     m_ui->List1->addItems(texts);
     m_ui->List1->setCurrentRow(0);
@@ -67,7 +68,7 @@ void frmrejstrik2::showClass(int row)
     const auto keywordClass = static_cast<int>(m_keywords.classAt(row));
     constexpr int firstText = 62;
     if (keywordClass >= 1 && keywordClass <= 3)
-        m_ui->lbltyp->setText(toQt(m_context.text(static_cast<std::size_t>(firstText + keywordClass - 1))));
+        m_ui->lbltyp->setText(shownText(m_context.text(static_cast<std::size_t>(firstText + keywordClass - 1))));
 }
 
 } // namespace kitwright

@@ -13,6 +13,7 @@
 #include "platform/line_number_margin.h"
 #include "platform/qt_text.h"
 #include "platform/report.h"
+#include "platform/shown_text.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -66,7 +67,8 @@ void fmrconfigedit::connectDocumentCommands()
         connect(button, &QAbstractButton::clicked, this, handler);
         connect(action, &QAction::triggered, this, handler);
         // The button's tool tip is the caption of its menu entry, in any language.
-        connect(action, &QAction::changed, button, [button, action] { button->setToolTip(action->text()); });
+        connect(action, &QAction::changed, button,
+                [button, action] { button->setToolTip(toolTipText(fromQt(action->text()))); });
     };
     command(m_ui->cmdnew, m_ui->mnufilenew, [this] { m_commands.newDocument(); });
     command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });
@@ -225,7 +227,7 @@ void fmrconfigedit::layOut()
 
 void fmrconfigedit::setCaption(const std::string& caption)
 {
-    setWindowTitle(toQt(caption));
+    setWindowTitle(shownText(caption));
 }
 
 void fmrconfigedit::setColouringEnabled(bool enabled)

@@ -5,7 +5,9 @@
 
 #include "lang/caption_table.h"
 #include "lang/language_file.h"
+#include "platform/qt_text.h"
 #include "platform/report.h"
+#include "platform/shown_text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -38,18 +40,21 @@ QObject* controlOf(const QObject& window, const QString& name)
 /// Shows a text as the caption of a label, button, frame, menu or menu entry; false for anything else.
 bool setCaption(QObject* control, const QString& text)
 {
-    if (auto* label = qobject_cast<QLabel*>(control))
+    if (auto* label = qobject_cast<QLabel*>(control)) {
+        // A text of a file is no markup, which could name any file of the disk as a picture.
+        label->setTextFormat(Qt::PlainText);
         label->setText(text);
-    else if (auto* button = qobject_cast<QAbstractButton*>(control))
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         button->setText(text);
-    else if (auto* frame = qobject_cast<QGroupBox*>(control))
+    } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
         frame->setTitle(text);
-    else if (auto* menu = qobject_cast<QMenu*>(control))
+    } else if (auto* menu = qobject_cast<QMenu*>(control)) {
         menu->setTitle(text);
-    else if (auto* entry = qobject_cast<QAction*>(control))
+    } else if (auto* entry = qobject_cast<QAction*>(control)) {
         entry->setText(text);
-    else
+    } else {
         return false;
+    }
     return true;
 }
 
@@ -81,7 +86,7 @@ void ApplyLanguage(Context& context, const WindowByName& windows, const std::str
 {
     readLanguage(context, path);
     for (const Caption& caption : captionTable()) {
-        if (!showCaption(windows(caption.window), caption, toQt(context.text(caption.text))))
+        if (!showCaption(windows(caption.window), caption, shownText(context.text(caption.text))))
             report(lcLanguage(), "setting captions",
                    std::string(caption.window) + '.' + std::string(caption.control) + " is missing");
     }

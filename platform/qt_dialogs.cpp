@@ -4,6 +4,7 @@
 #include "platform/qt_dialogs.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 
 #include <QApplication>
 #include <QColorDialog>
@@ -65,7 +66,7 @@ std::optional<std::string> QtDialogs::saveFile(const FileDialog& dialog)
 std::optional<std::string> QtDialogs::run(QFileDialog& window, const FileDialog& dialog)
 {
     if (!dialog.title.empty())
-        window.setWindowTitle(toQt(dialog.title));
+        window.setWindowTitle(shownText(dialog.title));
     window.setNameFilters(nameFilters(dialog.filter));
     window.setDefaultSuffix(toQt(dialog.defaultExtension));
     if (!dialog.folder.empty())
@@ -91,13 +92,13 @@ std::optional<std::uint32_t> QtDialogs::chooseColour()
 
 void QtDialogs::showMessage(const std::string& text)
 {
-    QMessageBox box(QMessageBox::NoIcon, title(), toQt(text), QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::NoIcon, title(), shownText(text), QMessageBox::Ok, QApplication::activeWindow());
     box.exec();
 }
 
 bool QtDialogs::askYesNo(const std::string& question)
 {
-    QMessageBox box(QMessageBox::Question, title(), toQt(question), QMessageBox::Yes | QMessageBox::No,
+    QMessageBox box(QMessageBox::Question, title(), shownText(question), QMessageBox::Yes | QMessageBox::No,
                     QApplication::activeWindow());
     return box.exec() == QMessageBox::Yes;
 }
@@ -106,7 +107,7 @@ std::string QtDialogs::askText(const std::string& prompt)
 {
     QInputDialog box(QApplication::activeWindow());
     box.setWindowTitle(title());
-    box.setLabelText(toQt(prompt));
+    box.setLabelText(shownText(prompt));
     return box.exec() == QDialog::Accepted ? fromQt(box.textValue()) : std::string();
 }
 

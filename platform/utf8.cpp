@@ -47,6 +47,15 @@ Utf8Character utf8At(std::string_view text, std::size_t offset)
     return {codePoint, length, true};
 }
 
+std::string_view cutUtf8(std::string_view text, std::size_t mostBytes)
+{
+    if (text.size() <= mostBytes)
+        return text;
+    while (mostBytes > 0 && (static_cast<unsigned char>(text[mostBytes]) & 0xC0) == 0x80)
+        --mostBytes;
+    return text.substr(0, mostBytes);
+}
+
 void appendUtf8(std::string& text, char32_t codePoint)
 {
     const auto byte = [&](char32_t value) { text += static_cast<char>(value); };

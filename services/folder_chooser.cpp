@@ -3,7 +3,9 @@
 
 #include "services/folder_chooser.h"
 
+#include "platform/qt_text.h"
 #include "platform/report.h"
+#include "platform/shown_text.h"
 #include "services/paths.h"
 #include "ui_folder_chooser.h"
 
@@ -196,7 +198,7 @@ QListWidgetItem* Form6::addFolder(const QString& name, const std::string& path, 
                                       name, m_ui->Dir1);
     entry->setData(pathRole, toQt(path));
     entry->setData(levelRole, level);
-    entry->setToolTip(QDir::toNativeSeparators(toQt(path)));
+    entry->setToolTip(toolTipText(fromQt(QDir::toNativeSeparators(toQt(path)))));
     return entry;
 }
 

@@ -3,7 +3,9 @@
 
 #include "stringtable/stringtable_window.h"
 
+#include "platform/qt_text.h"
 #include "platform/report.h"
+#include "platform/shown_text.h"
 #include "services/list_file.h"
 #include "services/paths.h"
 #include "ui_stringtable_window.h"
@@ -243,7 +245,7 @@ void Form4::showNewKeys()
     m_ui->List1->setUpdatesEnabled(false);
     for (int row = m_ui->List1->count(); row < static_cast<int>(m_table.StringCount()); ++row) {
         const std::size_t key = position(row);
-        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), toQt(m_table.entry(key).Key));
+        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), toolTipText(m_table.entry(key).Key));
         m_ui->List1->setTicked(row, m_table.isTicked(key));
     }
     m_ui->List1->setUpdatesEnabled(true);
@@ -258,7 +260,7 @@ void Form4::showLanguages()
     for (int row = 0; row < static_cast<int>(languages.size()); ++row) {
         if (row == m_ui->List2->count())
             m_ui->List2->addItem(QString());
-        m_ui->List2->item(row)->setText(toQt(languages[position(row)]));
+        m_ui->List2->item(row)->setText(shownText(languages[position(row)]));
     }
 }
 
@@ -266,7 +268,7 @@ void Form4::showTip(int row)
 {
     // A new tool tip would look like a change of the entry's tick.
     const QSignalBlocker quiet(m_ui->List1);
-    m_ui->List1->item(row)->setToolTip(toQt(m_table.entry(position(row)).Key));
+    m_ui->List1->item(row)->setToolTip(toolTipText(m_table.entry(position(row)).Key));
 }
 
 void Form4::enableEditing(bool enabled)

@@ -4,6 +4,7 @@
 #include "wizards/class_wizard.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 #include "ui_class_wizard.h"
 #include "wizards/window_helpers.h"
 #include "wizards/wizard_commands.h"
@@ -55,11 +56,11 @@ void ClassWizard::loadCatalogues()
 {
     m_catalogue = loadIfThere(m_context, m_settings.catalogueFile);
     for (const ListEntry& property : m_catalogue)
-        m_ui->List2->addEntry(toQt(property.text), toQt(property.help));
+        m_ui->List2->addEntry(shownText(property.text), toolTipText(property.help));
 
     m_baseClasses = BaseClassList(loadIfThere(m_context, m_settings.baseListFile));
     for (int i = 0; i < m_baseClasses.count(); ++i)
-        m_ui->Combo1->addItem(toQt(m_baseClasses.textAt(i)));
+        m_ui->Combo1->addItem(shownText(m_baseClasses.textAt(i)));
 }
 
 void ClassWizard::connectControls()
@@ -85,7 +86,7 @@ void ClassWizard::addClass()
     record.Properties.resize(m_catalogue.size());
     m_classes.push_back(std::move(record));
     const std::string label = m_context.text(m_settings.entryText) + ' ' + std::to_string(m_classes.size());
-    m_ui->List1->setTicked(m_ui->List1->addEntry(toQt(label)), true);
+    m_ui->List1->setTicked(m_ui->List1->addEntry(shownText(label)), true);
     setEditing(true);
 }
 
@@ -133,7 +134,7 @@ void ClassWizard::showProperty(int row)
 {
     const ListEntry& property = m_catalogue[static_cast<std::size_t>(row)];
     m_ui->Command6->setEnabled(property.kind == fileKind);
-    m_ui->propertyHelp->setText(toQt(property.help));
+    m_ui->propertyHelp->setText(shownText(property.help));
     if (PropertySetting* setting = currentSetting()) {
         setting->Used = m_ui->List2->isTicked(row);
         m_ui->txthodnota->setText(toQt(setting->Value));

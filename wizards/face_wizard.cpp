@@ -4,6 +4,7 @@
 #include "wizards/face_wizard.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 #include "ui_face_wizard.h"
 #include "wizards/catalogue.h"
 #include "wizards/face_block.h"
@@ -38,7 +39,7 @@ void frmfaceaddon::showEvent(QShowEvent* event)
 {
     WizardDialog::showEvent(event);
     // The name box has no label of its own; the word for it is the language's.
-    const QString name = toQt(m_context.text(nameText));
+    const QString name = shownText(m_context.text(nameText));
     m_ui->txtnazev->setPlaceholderText(name);
     m_ui->txtnazev->setAccessibleName(name);
 }
@@ -47,7 +48,7 @@ void frmfaceaddon::loadCatalogue()
 {
     m_catalogue = loadIfThere(m_context, R"(\Bfdata\kitwright\Kitwrightface.dat)");
     for (const ListEntry& property : m_catalogue)
-        m_ui->seznam2->addEntry(toQt(property.text), toQt(property.help));
+        m_ui->seznam2->addEntry(shownText(property.text), toolTipText(property.help));
 }
 
 void frmfaceaddon::connectControls()
@@ -71,7 +72,7 @@ void frmfaceaddon::addFace()
     face.Properties.resize(m_catalogue.size());
     face.Name = "Face " + number;
     m_faces.push_back(std::move(face));
-    const int row = m_ui->seznam1->addEntry(toQt(m_context.text(faceEntryText) + ' ' + number));
+    const int row = m_ui->seznam1->addEntry(shownText(m_context.text(faceEntryText) + ' ' + number));
     setEditing(true);
     m_ui->seznam1->setTicked(row, true);
     m_ui->seznam1->choose(row);
@@ -119,7 +120,7 @@ void frmfaceaddon::showFace()
 void frmfaceaddon::showProperty(int row)
 {
     const ListEntry& property = m_catalogue[static_cast<std::size_t>(row)];
-    m_ui->propertyHelp->setText(toQt(property.help));
+    m_ui->propertyHelp->setText(shownText(property.help));
     if (PropertySetting* setting = currentSetting()) {
         setting->Used = m_ui->seznam2->isTicked(row);
         m_ui->Text1->setText(toQt(setting->Value));

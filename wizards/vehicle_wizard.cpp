@@ -4,6 +4,7 @@
 #include "wizards/vehicle_wizard.h"
 
 #include "platform/qt_text.h"
+#include "platform/shown_text.h"
 #include "ui_vehicle_wizard.h"
 #include "wizards/catalogue.h"
 #include "wizards/window_helpers.h"
@@ -16,6 +17,7 @@ namespace kitwright {
 namespace {
 
 constexpr int nodePositionRole = Qt::UserRole; ///< Position among all nodes, from 1.
+constexpr int helpRole = Qt::UserRole + 1;     ///< The help as the label below the tree shows it.
 
 } // namespace
 
@@ -42,7 +44,7 @@ void frmvehikl::loadProperties(const KeywordTree& tree)
     m_tree = tree;
     QList<QTreeWidgetItem*> headings;
     for (const TreeNode& node : m_tree.nodes()) {
-        auto* item = new QTreeWidgetItem({toQt(node.text)});
+        auto* item = new QTreeWidgetItem({shownText(node.text)});
         item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
         item->setCheckState(0, Qt::Unchecked);
         item->setData(0, nodePositionRole, static_cast<int>(m_nodes.size()) + 1);
@@ -54,7 +56,9 @@ void frmvehikl::loadProperties(const KeywordTree& tree)
             m_nodes[parent]->addChild(item);
             parentText = m_tree.nodes()[parent].text;
         }
-        item->setToolTip(0, toQt(help.find(parentText, node.text)));
+        const std::string nodeHelp = help.find(parentText, node.text);
+        item->setData(0, helpRole, shownText(nodeHelp));
+        item->setToolTip(0, toolTipText(nodeHelp));
         m_nodes.push_back(item);
     }
     m_ui->vlastnosti->addTopLevelItems(headings);
@@ -69,8 +73,10 @@ void frmvehikl::NadeklarujPole()
 
 void frmvehikl::loadBaseClasses()
 {
-    for (const ListEntry& entry : loadIfThere(m_context, R"(\Bfdata\kitwright\addvehicles.dat)"))
-        m_ui->List1->addItem(toQt(entry.text));
+    for (ListEntry& entry : loadIfThere(m_context, R"(\Bfdata\kitwright\addvehicles.dat)")) {
+        m_ui->List1->addItem(shownText(entry.text));
+        m_baseClasses.push_back(std::move(entry.text));
+    }
 }
 
 void frmvehikl::connectControls()
@@ -109,7 +115,7 @@ void frmvehikl::clickNode(QTreeWidgetItem* node)
         return;
     VybranyUzel = node;
     QTreeWidgetItem* parent = node->parent();
-    m_ui->propertyHelp->setText(node->toolTip(0));
+    m_ui->propertyHelp->setText(node->data(0, helpRole).toString());
     if (VehicleProperty* property = propertyOf(node)) {
         m_ui->txthodnota->setText(toQt(property->Value));
         if (parent)
@@ -149,9 +155,8 @@ void frmvehikl::clearAll()
 
 void frmvehikl::writeAndHide()
 {
-    const QList<QListWidgetItem*> base = m_ui->List1->selectedItems();
     VehicleOrder order{.name = fromQt(m_ui->txtjmeno->text()),
-                       .baseClass = base.isEmpty() ? std::string() : fromQt(base.first()->text()),
+                       .baseClass = chosenBase(),
                        .tree = m_tree,
                        .ticked = {},
                        .properties = m_properties};
@@ -161,6 +166,13 @@ void frmvehikl::writeAndHide()
         order.ticked.push_back(node->checkState(0) == Qt::Checked);
     report("writing the vehicle", writeVehicle(m_context, order));
     hide();
+}
+
+std::string frmvehikl::chosenBase() const
+{
+    const QList<QListWidgetItem*> chosen = m_ui->List1->selectedItems();
+    return chosen.isEmpty() ? std::string()
+                            : m_baseClasses[static_cast<std::size_t>(m_ui->List1->row(chosen.first()))];
 }
 
 VehicleProperty* frmvehikl::propertyOf(const QTreeWidgetItem* node)

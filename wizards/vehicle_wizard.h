@@ -50,6 +50,9 @@ private:
     void clearAll();
     void writeAndHide();
 
+    /// The base class that is highlighted, or an empty text.
+    std::string chosenBase() const;
+
     /// The element of a node, or nullptr while the store is not declared.
     VehicleProperty* propertyOf(const QTreeWidgetItem* node);
 
@@ -57,6 +60,7 @@ private:
     std::vector<VehicleProperty>& m_properties;
     KeywordTree m_tree;
     std::vector<QTreeWidgetItem*> m_nodes;  ///< In the order of the tree's nodes.
+    std::vector<std::string> m_baseClasses; ///< One for each entry of the list.
     QTreeWidgetItem* VybranyUzel = nullptr; ///< The node clicked last; the value box edits its value.
     FileDialog CommonDialog1;               ///< The window's file dialog.
     bool m_tickingParent = false;

@@ -1,0 +1,26 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "platform/shown_text.h"
+
+#include "platform/qt_text.h"
+#include "platform/utf8.h"
+
+#include <QTextDocument>
+
+namespace kitwright {
+
+QString shownText(std::string_view text)
+{
+    constexpr std::size_t mostBytes = 1'000;
+    std::string_view start = cutUtf8(text, mostBytes);
+    return start.size() == text.size() ? toQt(text) : toQt(start) + QChar(0x2026);
+}
+
+QString toolTipText(std::string_view text)
+{
+    const QString shown = shownText(text);
+    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
+}
+
+} // namespace kitwright
