@@ -4,6 +4,7 @@
 #include "lang/language_chooser.h"
 
 #include "lang/language_folder.h"
+#include "platform/qt_text.h"
 #include "platform/report.h"
 #include "ui_language_chooser.h"
 

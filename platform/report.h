@@ -4,17 +4,13 @@
 #pragma once
 
 #include "platform/outcome.h"
-#include "platform/qt_text.h"
 
 #include <QLoggingCategory>
 
 namespace kitwright {
 
-/// Leaves one line on standard error when a step failed, so that it can be traced: "kitwright.app: saving: ...".
-inline void report(const QLoggingCategory& category, const char* step, const Failure& failure)
-{
-    if (failure)
-        qCWarning(category, "%s: %s", step, failure->c_str());
-}
+/// Leaves one line on standard error when a step failed, so that it can be traced: "kitwright.app: saving: ...". What a
+/// terminal would take for more than a letter, such as in a path that a damaged file brought, becomes a question mark.
+void report(const QLoggingCategory& category, const char* step, const Failure& failure);
 
 } // namespace kitwright
