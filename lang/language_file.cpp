@@ -10,11 +10,8 @@ namespace kitwright {
 void readTexts(std::string_view fileText, UiTexts& texts)
 {
     std::size_t number = 0;
-    for (const std::string_view line : dataLines(fileText)) {
-        if (number == texts.size())
-            return;
+    for (const std::string_view line : dataLines(fileText, texts.size()))
         texts[number++] = line;
-    }
 }
 
 } // namespace kitwright

@@ -31,10 +31,10 @@ Failure TextFiles::write(const std::string& path, std::string_view text)
     return m_files.writeBytes(path, m_codePage.encode(text));
 }
 
-std::vector<std::string_view> dataLines(std::string_view text)
+std::vector<std::string_view> dataLines(std::string_view text, std::size_t most)
 {
     std::vector<std::string_view> lines;
-    while (!text.empty()) {
+    while (!text.empty() && lines.size() < most) {
         const std::size_t end = text.find('\r');
         lines.push_back(text.substr(0, end));
         if (end == std::string_view::npos)
@@ -44,6 +44,30 @@ std::vector<std::string_view> dataLines(std::string_view text)
             text.remove_prefix(1);
     }
     return lines;
+}
+
+Failure linesLeftOut(const std::string& path, std::string_view text, std::size_t most)
+{
+    std::size_t end = 0;
+    for (std::size_t line = 0; line < most; ++line) {
+        const std::size_t found = text.find('\r', end);
+        if (found == std::string_view::npos)
+            return {};
+        end = found + (text.substr(found, 2) == "\r\n" ? 2 : 1);
+    }
+    return end < text.size() ? Failure(path + ": only the first " + std::to_string(most) + " lines are taken")
+                             : Failure();
+}
+
+bool hasLineLongerThan(std::size_t most, std::string_view text)
+{
+    while (text.size() > most) {
+        const std::size_t end = text.substr(0, most + 1).find_last_of("\r\n");
+        if (end == std::string_view::npos)
+            return true;
+        text.remove_prefix(end + 1);
+    }
+    return false;
 }
 
 bool hasOnlyCrLf(std::string_view text)

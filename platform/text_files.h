@@ -5,6 +5,7 @@
 
 #include "platform/code_page.h"
 #include "platform/file_system.h"
+#include "platform/outcome.h"
 
 #include <string>
 #include <string_view>
@@ -33,9 +34,18 @@ private:
     const CodePage& m_codePage;
 };
 
-/// The lines of a data file: a line ends at CR or at CR LF; a bare LF is part of the line. A last line without
-/// an end counts; an empty text has no line. The views point into `text`.
-std::vector<std::string_view> dataLines(std::string_view text);
+/// As many lines of a data file as are taken: many times what an author could look through in a list or a tree.
+inline constexpr std::size_t mostDataLines = 100'000;
+
+/// The lines of a data file, up to the first `most`: a line ends at CR or at CR LF; a bare LF is part of the line. A
+/// last line without an end counts; an empty text has no line. The views point into `text`.
+std::vector<std::string_view> dataLines(std::string_view text, std::size_t most = mostDataLines);
+
+/// Says in one line that a data file has more lines than `most`, which are left out; nothing when it has not.
+Failure linesLeftOut(const std::string& path, std::string_view text, std::size_t most = mostDataLines);
+
+/// True when a line of the text, whatever it ends with, is longer than `most` bytes.
+bool hasLineLongerThan(std::size_t most, std::string_view text);
 
 /// True when every CR is followed by LF and every LF preceded by CR.
 bool hasOnlyCrLf(std::string_view text);

@@ -126,7 +126,7 @@ Failure NactiTridy(const TextFiles& texts, const std::string& path, KeywordTree&
     if (!text)
         return text.reason();
     addTreeLines(*text, tree);
-    return {};
+    return linesLeftOut(path, *text);
 }
 
 } // namespace kitwright

@@ -97,10 +97,10 @@ double leadingNumber(std::string_view text)
     return length == 0 ? 0 : numberValue(field.substr(0, length));
 }
 
-std::vector<ListEntry> listEntries(std::string_view text)
+std::vector<ListEntry> listEntries(std::string_view text, std::size_t most)
 {
     std::vector<ListEntry> entries;
-    for (const std::string_view line : dataLines(text))
+    for (const std::string_view line : dataLines(text, most))
         entries.push_back(entryOf(line));
     return entries;
 }

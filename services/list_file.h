@@ -23,7 +23,7 @@ struct ListEntry {
 /// taken as far as they go, and the rest is ignored, an exponent included. 0 when there is none; finite always.
 double leadingNumber(std::string_view text);
 
-/// The lines of a flat list file: "text" or "text,number help".
-std::vector<ListEntry> listEntries(std::string_view text);
+/// The lines of a flat list file, up to the first `most`: "text" or "text,number help".
+std::vector<ListEntry> listEntries(std::string_view text, std::size_t most = mostDataLines);
 
 } // namespace kitwright

@@ -109,8 +109,10 @@ void Form4::loadLanguages()
         report(lcStringtable(), "reading the languages", text.reason());
         return;
     }
-    for (const ListEntry& entry : listEntries(*text))
+    constexpr std::size_t mostLanguages = 1'000;
+    for (const ListEntry& entry : listEntries(*text, mostLanguages))
         m_table.addLanguage(entry.text);
+    report(lcStringtable(), "reading the languages", linesLeftOut(path, *text, mostLanguages));
     showLanguages();
 }
 

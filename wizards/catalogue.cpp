@@ -18,7 +18,7 @@ Failure LoadListFile(const TextFiles& texts, const std::string& path, std::vecto
         return text.reason();
     std::vector<ListEntry> entries = listEntries(*text);
     list.insert(list.end(), std::move_iterator(entries.begin()), std::move_iterator(entries.end()));
-    return {};
+    return linesLeftOut(path, *text);
 }
 
 BaseClassList::BaseClassList(const std::vector<ListEntry>& entries)

@@ -21,6 +21,22 @@ TEST(DataLines, EndAtCrOrCrLfButNotAtBareLf)
         EXPECT_EQ(dataLines(text), lines) << ::testing::PrintToString(text);
 }
 
+TEST(DataLines, AreTakenUpToAMostWhichIsTold)
+{
+    EXPECT_EQ(dataLines("a\r\nb\rc", 2), (std::vector<std::string_view>{"a", "b"}));
+    for (const char* whole : {"", "a\r\nb", "a\rb\r", "a\r\nb\r\n"})
+        EXPECT_FALSE(linesLeftOut("/f", whole, 2)) << ::testing::PrintToString(whole);
+    for (const char* cut : {"a\r\nb\r\nc", "\r\r\r"})
+        EXPECT_TRUE(linesLeftOut("/f", cut, 2)) << ::testing::PrintToString(cut);
+}
+
+TEST(Lines, AreMeasuredWithoutTheirEnds)
+{
+    EXPECT_FALSE(hasLineLongerThan(3, "123\n123\r\n\n\r123"));
+    EXPECT_TRUE(hasLineLongerThan(3, "1\n2\n1234\n3"));
+    EXPECT_TRUE(hasLineLongerThan(3, "1\n1234"));
+}
+
 TEST(WithCrLf, MendsEveryLineEndAndNothingElse)
 {
     for (const auto& [text, expected] : testing::scenarioTable<2>("tables/line_ends.txt"))
