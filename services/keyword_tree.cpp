@@ -72,8 +72,11 @@ void KeywordTree::add(std::string_view text, int level, int parent)
     node.parent = parent;
     node.key = std::to_string(m_nodes.size() + 1);
     node.key.append(marker).append(std::to_string(level)).append(text);
-    if (parent != TreeNode::noParent)
-        m_nodes[static_cast<std::size_t>(parent)].hasChildren = true;
+    if (parent != TreeNode::noParent) {
+        TreeNode& above = m_nodes[static_cast<std::size_t>(parent)];
+        above.hasChildren = true;
+        node.depth = above.depth + 1;
+    }
     m_nodes.push_back(std::move(node));
 }
 
@@ -113,7 +116,7 @@ void addTreeLines(std::string_view text, KeywordTree& tree)
             if (const auto found = lastByNumber.find(level - 1))
                 parent = found;
         }
-        if (level > 0 && !parent)
+        if (level > 0 && (!parent || tree.nodes()[static_cast<std::size_t>(*parent)].depth >= deepestNode))
             continue;
         tree.add(trimmedSpaces(line), level, level > 0 ? *parent : TreeNode::noParent);
         lastByNumber.note(tree.nodes().back().key, static_cast<int>(tree.nodes().size()) - 1);

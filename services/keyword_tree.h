@@ -20,6 +20,7 @@ struct TreeNode {
     std::string key;       ///< Position from 1, "VNORENI", level, text: "4VNORENI2gunBeg".
     int level = 0;         ///< 0 for headings.
     int parent = noParent; ///< Index of the parent, from 0.
+    int depth = 0;         ///< Number of entries above it.
     bool hasChildren = false;
 
     /// Headings insert nothing when they are clicked.
@@ -51,8 +52,12 @@ int SpocitejMezery(std::string_view Retezec);
 /// is none.
 int SpocitejIndexy(std::string_view Key, std::string& Key2, const KeywordTree& Strom);
 
+/// The most entries that an entry of a tree can have above it; the toolkit walks through trees by recursion.
+inline constexpr int deepestNode = 1'000;
+
 /// Adds the lines of a keyword-tree file to the tree. A line goes under the last entry one level up; where none has
-/// been seen yet, under the last parent that was found, and a line without any is not created.
+/// been seen yet, under the last parent that was found. A line without any is not created, nor is one that would lie
+/// deeper than `deepestNode`.
 void addTreeLines(std::string_view text, KeywordTree& tree);
 
 /// Loads a keyword-tree file into a tree.

@@ -40,6 +40,17 @@ TEST(KeywordTree, PutsEachLineUnderTheLastEntryOneLevelUp)
         EXPECT_EQ(pathsOf(treeOf(lines)), paths);
 }
 
+TEST(KeywordTree, GrowsNoDeeperThanTheToolkitCanWalk)
+{
+    std::string lines = "A\r\n";
+    for (int pair = 0; pair < deepestNode; ++pair)
+        lines += "   VNORENI0VNORENI1\r\n      VNORENI0VNORENI1\r\n"; // Each below the one before it.
+    const KeywordTree tree = treeOf(lines + "B\r\n   c\r\n");
+    const auto isDeeper = [](const TreeNode& left, const TreeNode& right) { return left.depth < right.depth; };
+    EXPECT_EQ(std::max_element(tree.nodes().begin(), tree.nodes().end(), isDeeper)->depth, deepestNode);
+    EXPECT_EQ(pathsOf(tree).back(), "B/c");
+}
+
 TEST(KeywordTree, KeysTellPositionLevelAndText)
 {
     KeywordTree tree = treeOf("Weapons\r\n   gun\r\n      2gunBeg\r\n\r\n");
