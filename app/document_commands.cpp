@@ -15,6 +15,10 @@ namespace {
 constexpr const char* configFilter = "Config files|*.cpp*";
 constexpr const char* configAndAllFilter = "Config files|*.cpp*|All files|*.*";
 
+/// Bytes of the longest line that is opened. The control lays a line out whole at every keystroke in it, for about a
+/// second at this length; no config has such a line, but the wrong file may have.
+constexpr std::size_t longestLine = 1'000'000;
+
 } // namespace
 
 DocumentCommands::DocumentCommands(Context& context, ProgramLauncher& launcher, DocumentSurroundings& surroundings)
@@ -118,7 +122,8 @@ void DocumentCommands::VlozText(const std::string& Jmeno)
     m_surroundings.refresh();
 }
 
-/// Sets the editor's text to the content of the file. A file that cannot be read leaves the editor as it was.
+/// Sets the editor's text to the content of the file. A file that cannot be read, or that has an endless line, leaves
+/// the editor as it was.
 bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole)
 {
     Outcome<std::string> text = m_context.texts.read(Soubor);
@@ -126,7 +131,14 @@ bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& Texto
         m_surroundings.stepFailed("opening", text.reason());
         return false;
     }
-    TextovePole.loadText(withCrLf(std::move(*text)));
+    // What holds a NUL is no text in the code page, and other line ends would spoil it for whatever reads it.
+    const bool isText = text->find('\0') == std::string::npos;
+    const std::string document = isText ? withCrLf(std::move(*text)) : std::move(*text);
+    if (hasLineLongerThan(longestLine, document)) {
+        m_surroundings.stepFailed("opening", Soubor + ": a line is too long to be edited");
+        return false;
+    }
+    TextovePole.loadText(document);
     return true;
 }
 
