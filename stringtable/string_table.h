@@ -47,6 +47,9 @@ public:
     void setText(std::size_t index, std::size_t language, std::string_view text);
     void setTicked(std::size_t index, bool ticked);
 
+    /// False for a file with which the table would hold more texts than is bearable; it must not be taken in.
+    bool hasRoomFor(const TableFile& file) const;
+
     /// Takes in a file that the table does not know, behind the table's own keys; its header and its column order
     /// are the table's from then on. Where a ticked key stands in both, the table's texts win, and the file's stay
     /// where the table has none.

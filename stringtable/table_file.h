@@ -32,8 +32,14 @@ struct TablePart {
 struct TableFile {
     TableLayout layout;
     std::vector<TablePart> parts;
-    std::string tail; ///< The lines behind the last record.
+    std::string tail;      ///< The lines behind the last record.
+    bool tooLarge = false; ///< The file has more columns or fields than the editor can show; it is not taken apart.
 };
+
+/// The most fields of one line, columns of the header, and fields of all records together.
+inline constexpr std::size_t mostFields = 10'000;
+inline constexpr std::size_t mostColumns = 1'000;
+inline constexpr std::size_t mostTexts = 2'000'000;
 
 TableFile parseTable(std::string_view text);
 

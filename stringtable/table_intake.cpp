@@ -232,7 +232,9 @@ void StringTable::moveRowsTo(const TableFile& file)
         places.push_back(&row.before);
     places[StringEntries.empty() ? 0 : 1]->insert(0, m_layout.preamble);
 
-    const KnownLines known(file);
+    const bool anyLines =
+        std::any_of(places.begin(), places.end(), [](const std::string* place) { return !place->empty(); });
+    const KnownLines known(anyLines ? file : TableFile());
     std::vector<LineGroup> groups;
     groups.reserve(places.size());
     for (std::string* place : places)

@@ -81,25 +81,6 @@ bool isComment(std::string_view line)
     return withoutBlanks(line).starts_with("//");
 }
 
-/// Takes the line at `position`, which must lie inside the text, and moves `position` behind it.
-TableRecord takeLine(std::string_view text, std::size_t& position)
-{
-    TableRecord record;
-    const std::size_t physicalEnd = std::min(text.find_first_of(lineBreaks, position), text.size());
-    const bool comment = isComment(text.substr(position, physicalEnd - position));
-    for (;;) {
-        const std::size_t end = comment ? physicalEnd : fieldEnd(text, position);
-        record.fields.emplace_back(text.substr(position, end - position));
-        position = end;
-        if (position >= text.size() || text[position] != ',')
-            break;
-        ++position;
-    }
-    record.lineEnd = text.substr(position, lineEndLength(text, position));
-    position += record.lineEnd.size();
-    return record;
-}
-
 /// The text as the inside of a quoted field.
 std::string escaped(std::string_view text)
 {
@@ -188,6 +169,24 @@ bool looksLikeRecord(const TableRecord& record)
 bool isBlank(const TableRecord& record)
 {
     return record.fields.size() == 1 && withoutBlanks(record.fields.front()).empty();
+}
+
+TableRecord takeLine(std::string_view text, std::size_t& position)
+{
+    TableRecord record;
+    const std::size_t physicalEnd = std::min(text.find_first_of(lineBreaks, position), text.size());
+    const bool comment = isComment(text.substr(position, physicalEnd - position));
+    for (;;) {
+        const std::size_t end = comment ? physicalEnd : fieldEnd(text, position);
+        record.fields.emplace_back(text.substr(position, end - position));
+        position = end;
+        if (position >= text.size() || text[position] != ',')
+            break;
+        ++position;
+    }
+    record.lineEnd = text.substr(position, lineEndLength(text, position));
+    position += record.lineEnd.size();
+    return record;
 }
 
 std::vector<TableRecord> tableLines(std::string_view text)

@@ -48,6 +48,9 @@ bool looksLikeRecord(const TableRecord& record);
 /// True for a line of blanks.
 bool isBlank(const TableRecord& record);
 
+/// Takes the line at `position`, which must lie inside the text, and moves `position` behind it. See `tableLines`.
+TableRecord takeLine(std::string_view text, std::size_t& position);
+
 /// The lines of a text, none lost: their raw texts together are the text. A line ends at CR LF, CR or LF outside
 /// quotes. A quote that never closes in front of a comma or a line end, or that would swallow a further record of
 /// the table, is an ordinary character; so is every quote behind "//" at the start of a line.

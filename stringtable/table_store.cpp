@@ -22,7 +22,8 @@ Failure TableStore::open(const std::string& folder)
     const Outcome<std::string> text = read(path);
     if (!text)
         return text.reason();
-    takeIn(path, *text);
+    if (Failure tooLarge = takeIn(path, *text))
+        return tooLarge;
     return failure;
 }
 
@@ -35,8 +36,10 @@ Failure TableStore::save(const std::string& path)
         const Outcome<std::string> text = read(target);
         if (!text)
             return text.reason() + "; the file is left as it is";
-        if (target != m_path || *text != m_known)
-            takeIn(target, *text);
+        if (target != m_path || *text != m_known) {
+            if (const Failure failure = takeIn(target, *text))
+                return *failure + "; the file is left as it is";
+        }
     }
     const std::string wanted = m_table.text();
     if (!exists || wanted != m_known) {
@@ -78,14 +81,18 @@ Outcome<std::string> TableStore::read(const std::string& path) const
     return text;
 }
 
-void TableStore::takeIn(const std::string& path, const std::string& text)
+Failure TableStore::takeIn(const std::string& path, const std::string& text)
 {
+    const TableFile file = parseTable(text);
+    if (file.tooLarge || !m_table.hasRoomFor(file))
+        return path + ": more columns or texts than a stringtable can have";
     if (path == m_path)
-        m_table.takeInAgain(parseTable(text), parseTable(m_known));
+        m_table.takeInAgain(file, parseTable(m_known));
     else
-        m_table.takeIn(parseTable(text));
+        m_table.takeIn(file);
     m_path = path;
     m_known = text;
+    return {};
 }
 
 } // namespace kitwright

@@ -33,7 +33,7 @@ public:
 private:
     std::string existingName(const std::string& path, Failure& failure) const;
     Outcome<std::string> read(const std::string& path) const;
-    void takeIn(const std::string& path, const std::string& text);
+    Failure takeIn(const std::string& path, const std::string& text);
 
     FileSystem& m_files;
     TextFiles& m_texts;
