@@ -170,7 +170,12 @@ void Form4::showText()
     if (m_ui->List1->currentRow() < 0 || m_ui->List2->currentRow() < 0)
         return;
     const QSignalBlocker quiet(m_ui->Text2);
-    m_ui->Text2->setPlainText(currentText());
+    // A box lays its text out as one paragraph. A longer one is kept and written as it is, but not edited here.
+    constexpr qsizetype longestEdited = 100'000;
+    const QString text = currentText();
+    const bool editable = text.size() <= longestEdited;
+    m_ui->Text2->setReadOnly(!editable);
+    m_ui->Text2->setPlainText(editable ? text : shownText(fromQt(text)));
 }
 
 void Form4::storeText()
@@ -204,6 +209,7 @@ void Form4::readTable(const std::string& configPath)
     const QSignalBlocker quiet2(m_ui->Text2);
     m_ui->Text1->clear();
     m_ui->Text2->clear();
+    m_ui->Text2->setReadOnly(false);
     m_ui->List2->setCurrentRow(-1);
     enableEditing(m_table.StringCount() > 0);
     m_ui->Command5->setEnabled(true);
