@@ -12,8 +12,9 @@ namespace kitwright {
 
 namespace {
 
-constexpr int longestSide = 20'000;        // Of a picture that is decoded at all.
-constexpr qint64 mostPixels = 200'000'000; // A decoder that scales still has to walk through all of them.
+constexpr int longestSide = 20'000; // Of a picture that is decoded at all.
+constexpr qint64 mostPixels =
+    36'000'000; // Of a progressive picture the decoder keeps all, at 6 bytes or more each.
 constexpr QSize decodedSize(1'600, 1'600); // Enough for a preview that fills a large screen.
 
 } // namespace
