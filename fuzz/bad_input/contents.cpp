@@ -95,7 +95,8 @@ public:
 
     std::string nested() const
     {
-        const std::size_t levels = scaled(million / 10);
+        // Fewer would not be deep at all.
+        const std::size_t levels = std::max<std::size_t>(scaled(million / 10), 20'000);
         switch (m_flavour.nesting) {
         case Flavour::Nesting::Tree: {
             // A line goes below the last one whose key holds the marker and the level above: with these texts, below
@@ -127,6 +128,15 @@ public:
             indentation += "   ";
         }
         return text;
+    }
+
+    /// A field, not a name, that is as long as a book.
+    Content longField() const
+    {
+        if (m_flavour.separators != ",")
+            return std::nullopt;
+        return m_flavour.head + m_flavour.lineStart + "Long," + filled("W", 10 * million) + "\r\n"
+             + m_flavour.sound;
     }
 
     std::string nulInside() const
@@ -212,6 +222,7 @@ const std::vector<std::pair<std::string, Make>>& textKinds()
          [](const Maker& m) {
              return m.flavour().head + m.line(m.filled("W", 10 * million)) + "\r\n" + m.flavour().sound;
          }},
+        {"10-MB-field", [](const Maker& m) { return m.longField(); }},
         {"same-line-100000",
          [](const Maker& m) {
              return m.flavour().head + Maker::repeated(m.line("CLASS") + "\r\n", m.scaled(million / 10));

@@ -53,8 +53,6 @@ const Surface* surfaceOf(const std::string& name)
 int playHere(int argc, char** argv, const std::string& caseName, SizeFactor factor, const std::string& folder)
 {
     setLimits();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    previousHandler = qInstallMessageHandler(withoutPlatformNoise);
     QApplication application(argc, argv);
     const std::size_t slash = caseName.find('/');
     const Surface* surface = surfaceOf(caseName.substr(0, slash));
@@ -132,12 +130,13 @@ int printTable(const std::vector<Result>& results)
 int main(int argc, char** argv)
 {
     using namespace kitwright::badinput;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    previousHandler = qInstallMessageHandler(withoutPlatformNoise);
     std::vector<std::string> words(argv + 1, argv + argc);
     if (words.size() == 4 && words[0] == "--play")
         return playHere(argc, argv, words[1], std::atof(words[2].c_str()), words[3]);
 
     // Making the picture of the sound files needs no window, but the toolkit's plugins.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(argc, argv);
     SizeFactor factor = 1;
     unsigned atOnce = 1;

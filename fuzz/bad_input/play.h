@@ -56,7 +56,7 @@ std::string usePicture(Play& play);
 std::string useModel(Play& play);
 
 /// Opens the document of the stage and saves it untouched; tells what that did to the file. Then types a word in front
-/// of it and saves again.
+/// of it and saves again. A document that the program does not open must stay as it is, and the editor usable.
 std::string editDocument(Play& play);
 
 } // namespace kitwright::badinput

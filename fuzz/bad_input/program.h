@@ -65,7 +65,8 @@ public:
     /// entry that is reached.
     void clickThrough(QAbstractItemView& view);
 
-    void openDocument(const std::string& path);
+    /// False when the program refused it.
+    bool openDocument(const std::string& path);
 
     /// Ends the program by closing its main window, which writes the settings.
     void close();
