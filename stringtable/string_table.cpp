@@ -127,7 +127,7 @@ void StringTable::setTicked(std::size_t index, bool ticked)
 bool StringTable::hasRoomFor(const TableFile& file) const
 {
     const std::size_t columns = file.layout.header ? file.layout.header->fields.size() : 0;
-    return (StringCount() + file.parts.size()) * (m_languages.size() + columns) <= mostTexts;
+    return file.parts.size() * (m_languages.size() + columns) <= mostTexts;
 }
 
 std::string StringTable::text() const
