@@ -3,6 +3,8 @@
 
 #include "platform/text_files.h"
 
+#include "platform/utf8.h"
+
 namespace kitwright {
 
 Outcome<std::string> TextFiles::read(const std::string& path) const
@@ -36,7 +38,7 @@ std::vector<std::string_view> dataLines(std::string_view text, std::size_t most)
     std::vector<std::string_view> lines;
     while (!text.empty() && lines.size() < most) {
         const std::size_t end = text.find('\r');
-        lines.push_back(text.substr(0, end));
+        lines.push_back(cutUtf8(text.substr(0, end), longestDataLine));
         if (end == std::string_view::npos)
             break;
         text.remove_prefix(end + 1);

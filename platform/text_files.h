@@ -37,8 +37,12 @@ private:
 /// As many lines of a data file as are taken: many times what an author could look through in a list or a tree.
 inline constexpr std::size_t mostDataLines = 100'000;
 
+/// As many bytes of one of them: a click puts a line into the document, where a much longer one could not be edited.
+inline constexpr std::size_t longestDataLine = 10'000;
+
 /// The lines of a data file, up to the first `most`: a line ends at CR or at CR LF; a bare LF is part of the line. A
-/// last line without an end counts; an empty text has no line. The views point into `text`.
+/// last line without an end counts; an empty text has no line. A line is cut to `longestDataLine` bytes. The views
+/// point into `text`.
 std::vector<std::string_view> dataLines(std::string_view text, std::size_t most = mostDataLines);
 
 /// Says in one line that a data file has more lines than `most`, which are left out; nothing when it has not.

@@ -28,6 +28,9 @@ TEST(DataLines, AreTakenUpToAMostWhichIsTold)
         EXPECT_FALSE(linesLeftOut("/f", whole, 2)) << ::testing::PrintToString(whole);
     for (const char* cut : {"a\r\nb\r\nc", "\r\r\r"})
         EXPECT_TRUE(linesLeftOut("/f", cut, 2)) << ::testing::PrintToString(cut);
+    const std::string longest(longestDataLine, 'x');
+    EXPECT_EQ(dataLines(longest + "\rb\r" + longest.substr(1) + "\u010D"),
+              (std::vector<std::string_view>{longest, "b", std::string_view(longest).substr(1)}));
 }
 
 TEST(Lines, AreMeasuredWithoutTheirEnds)
