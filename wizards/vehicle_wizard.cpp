@@ -62,8 +62,7 @@ void frmvehikl::loadProperties(const KeywordTree& tree)
         m_nodes.push_back(item);
     }
     m_ui->vlastnosti->addTopLevelItems(headings);
-    for (QTreeWidgetItem* heading : headings)
-        heading->setExpanded(true);
+    m_ui->vlastnosti->expandToDepth(0);
 }
 
 void frmvehikl::NadeklarujPole()
