@@ -24,9 +24,12 @@ namespace kitwright {
 
 namespace {
 
-/// The path as the system takes it. A backslash separates folders, unless a file bears the name as it stands.
+/// The path as the system takes it; empty for one with a NUL, which no file can bear. A backslash separates folders,
+/// unless a file bears the name as it stands.
 QString nativePath(const std::string& path)
 {
+    if (path.find('\0') != std::string::npos)
+        return {};
     const QString name = toQt(path);
     if (!name.contains(QLatin1Char('\\')) || QFileInfo::exists(name))
         return name;
