@@ -80,7 +80,7 @@ bool BrowserTree::viewportEvent(QEvent* event)
         return QTreeWidget::viewportEvent(event);
     const auto* help = static_cast<const QHelpEvent*>(event);
     if (const QTreeWidgetItem* item = itemAt(help->pos()))
-        QToolTip::showText(help->globalPos(), toolTipText(fromQt(pathOf(item))), viewport(), visualItemRect(item));
+        QToolTip::showText(help->globalPos(), shownText(fromQt(pathOf(item))), viewport(), visualItemRect(item));
     else
         QToolTip::hideText();
     return true;

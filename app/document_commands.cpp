@@ -131,9 +131,7 @@ bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& Texto
         m_surroundings.stepFailed("opening", text.reason());
         return false;
     }
-    // What holds a NUL is no text in the code page, and other line ends would spoil it for whatever reads it.
-    const bool isText = text->find('\0') == std::string::npos;
-    const std::string document = isText ? withCrLf(std::move(*text)) : std::move(*text);
+    const std::string document = withCrLf(std::move(*text));
     if (hasLineLongerThan(longestLine, document)) {
         m_surroundings.stepFailed("opening", Soubor + ": a line is too long to be edited");
         return false;

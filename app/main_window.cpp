@@ -68,7 +68,7 @@ void fmrconfigedit::connectDocumentCommands()
         connect(action, &QAction::triggered, this, handler);
         // The button's tool tip is the caption of its menu entry, in any language.
         connect(action, &QAction::changed, button,
-                [button, action] { button->setToolTip(toolTipText(fromQt(action->text()))); });
+                [button, action] { button->setToolTip(shownText(fromQt(action->text()))); });
     };
     command(m_ui->cmdnew, m_ui->mnufilenew, [this] { m_commands.newDocument(); });
     command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });

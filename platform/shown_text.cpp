@@ -6,8 +6,6 @@
 #include "platform/qt_text.h"
 #include "platform/utf8.h"
 
-#include <QTextDocument>
-
 namespace kitwright {
 
 QString shownText(std::string_view text)
@@ -15,12 +13,6 @@ QString shownText(std::string_view text)
     constexpr std::size_t mostBytes = 1'000;
     std::string_view start = cutUtf8(text, mostBytes);
     return start.size() == text.size() ? toQt(text) : toQt(start) + QChar(0x2026);
-}
-
-QString toolTipText(std::string_view text)
-{
-    const QString shown = shownText(text);
-    return Qt::mightBeRichText(shown) ? Qt::convertFromPlainText(shown) : shown;
 }
 
 } // namespace kitwright

@@ -198,7 +198,7 @@ QListWidgetItem* Form6::addFolder(const QString& name, const std::string& path, 
                                       name, m_ui->Dir1);
     entry->setData(pathRole, toQt(path));
     entry->setData(levelRole, level);
-    entry->setToolTip(toolTipText(fromQt(QDir::toNativeSeparators(toQt(path)))));
+    entry->setToolTip(shownText(fromQt(QDir::toNativeSeparators(toQt(path)))));
     return entry;
 }
 

@@ -253,7 +253,7 @@ void Form4::showNewKeys()
     m_ui->List1->setUpdatesEnabled(false);
     for (int row = m_ui->List1->count(); row < static_cast<int>(m_table.StringCount()); ++row) {
         const std::size_t key = position(row);
-        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), toolTipText(m_table.entry(key).Key));
+        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), shownText(m_table.entry(key).Key));
         m_ui->List1->setTicked(row, m_table.isTicked(key));
     }
     m_ui->List1->setUpdatesEnabled(true);
@@ -276,7 +276,7 @@ void Form4::showTip(int row)
 {
     // A new tool tip would look like a change of the entry's tick.
     const QSignalBlocker quiet(m_ui->List1);
-    m_ui->List1->item(row)->setToolTip(toolTipText(m_table.entry(position(row)).Key));
+    m_ui->List1->item(row)->setToolTip(shownText(m_table.entry(position(row)).Key));
 }
 
 void Form4::enableEditing(bool enabled)

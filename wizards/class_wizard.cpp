@@ -56,7 +56,7 @@ void ClassWizard::loadCatalogues()
 {
     m_catalogue = loadIfThere(m_context, m_settings.catalogueFile);
     for (const ListEntry& property : m_catalogue)
-        m_ui->List2->addEntry(shownText(property.text), toolTipText(property.help));
+        m_ui->List2->addEntry(shownText(property.text), shownText(property.help));
 
     m_baseClasses = BaseClassList(loadIfThere(m_context, m_settings.baseListFile));
     for (int i = 0; i < m_baseClasses.count(); ++i)

@@ -48,7 +48,7 @@ void frmfaceaddon::loadCatalogue()
 {
     m_catalogue = loadIfThere(m_context, R"(\Bfdata\kitwright\Kitwrightface.dat)");
     for (const ListEntry& property : m_catalogue)
-        m_ui->seznam2->addEntry(shownText(property.text), toolTipText(property.help));
+        m_ui->seznam2->addEntry(shownText(property.text), shownText(property.help));
 }
 
 void frmfaceaddon::connectControls()

@@ -17,7 +17,6 @@ namespace kitwright {
 namespace {
 
 constexpr int nodePositionRole = Qt::UserRole; ///< Position among all nodes, from 1.
-constexpr int helpRole = Qt::UserRole + 1;     ///< The help as the label below the tree shows it.
 
 } // namespace
 
@@ -56,9 +55,7 @@ void frmvehikl::loadProperties(const KeywordTree& tree)
             m_nodes[parent]->addChild(item);
             parentText = m_tree.nodes()[parent].text;
         }
-        const std::string nodeHelp = help.find(parentText, node.text);
-        item->setData(0, helpRole, shownText(nodeHelp));
-        item->setToolTip(0, toolTipText(nodeHelp));
+        item->setToolTip(0, shownText(help.find(parentText, node.text)));
         m_nodes.push_back(item);
     }
     m_ui->vlastnosti->addTopLevelItems(headings);
@@ -114,7 +111,7 @@ void frmvehikl::clickNode(QTreeWidgetItem* node)
         return;
     VybranyUzel = node;
     QTreeWidgetItem* parent = node->parent();
-    m_ui->propertyHelp->setText(node->data(0, helpRole).toString());
+    m_ui->propertyHelp->setText(node->toolTip(0));
     if (VehicleProperty* property = propertyOf(node)) {
         m_ui->txthodnota->setText(toQt(property->Value));
         if (parent)

@@ -49,8 +49,7 @@ std::string comparison(const std::string& before, const std::string& after)
 {
     if (after == before)
         return "saved unchanged";
-    const bool isText = before.find('\0') == std::string::npos;
-    const std::string expected = isText ? reEnded(before) : before;
+    const std::string expected = reEnded(before);
     if (after == expected)
         return "saved with CR LF line ends";
     expect(equalInAnyCase(after, expected), "the document lost something between opening and saving");
