@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char* configFilter = "Config files|*.cpp*";
 constexpr const char* configAndAllFilter = "Config files|*.cpp*|All files|*.*";
+constexpr const char* stringtableName = "Stringtable.csv";
 
 /// Bytes of the longest line that is opened. The control lays a line out whole at every keystroke in it, for about a
 /// second at this length; no config has such a line, but the wrong file may have.
@@ -65,7 +66,11 @@ bool DocumentCommands::UlozAddon()
     if (CurrentFile.empty() && !askForFile())
         return false;
     const bool written = UlozConfig(CurrentFile);
-    m_surroundings.WriteStringtable(FolderOf(CurrentFile) + "Stringtable.csv");
+    // A document of that very name would be replaced by its own stringtable.
+    if (equalIgnoringCase(FileNameOf(CurrentFile), stringtableName))
+        m_surroundings.stepFailed("writing the stringtable", CurrentFile + ": the document itself lies there");
+    else
+        m_surroundings.WriteStringtable(FolderOf(CurrentFile) + stringtableName);
     return written;
 }
 
