@@ -181,7 +181,17 @@ Window& Application::windowAs(std::string_view name)
 
 void Application::showModal(QStringView name)
 {
-    windowAs<QDialog>(fromQt(name.toString())).exec();
+    runModal(windowAs<QDialog>(fromQt(name.toString())));
+}
+
+/// Shows a window until it is closed. A click that was waiting while it closed arrives before its loop has ended, and
+/// does nothing.
+void Application::runModal(QDialog& dialog)
+{
+    if (!m_modal.insert(&dialog).second)
+        return;
+    dialog.exec();
+    m_modal.erase(&dialog);
 }
 
 void Application::showBeside(QStringView name)
@@ -210,7 +220,7 @@ void Application::WriteStringtable(const std::string& path)
 std::string Application::chooseFolder()
 {
     auto& chooser = windowAs<Form6>("Form6");
-    chooser.exec();
+    runModal(chooser);
     return chooser.FolderPath;
 }
 

@@ -16,6 +16,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -63,6 +64,7 @@ private:
     void loadSettings();
     void loadVehicles();
     void applyLanguage(const std::string& path);
+    void runModal(QDialog& dialog);
     std::string chooseFolder();
 
     PlainLabels m_plainLabels;
@@ -75,6 +77,7 @@ private:
     KeywordList m_keywords;
     fmrconfigedit m_main;
     std::map<std::string, QPointer<QDialog>, std::less<>> m_windows; ///< Children of the main window.
+    std::set<QDialog*> m_modal; ///< Windows whose modal loop runs, or is about to end.
 };
 
 } // namespace kitwright
