@@ -31,9 +31,9 @@ public:
         const auto when =
             std::find_if(steps.begin(), steps.end(), [](const Step& step) { return step.cells[0] == "when"; });
         session.play({steps.begin(), when});
-        files.written.clear();
         for (const auto& [path, bytes] : files.files)
-            files.written[path].insert(bytes);
+            written[path].insert(bytes);
+        files.history = &written;
         documents = {session.seen("document")};
         files.operations = 0;
         files.failing = fault;
@@ -47,8 +47,8 @@ public:
     void expectAsIn(const FaultySession& sound)
     {
         for (const auto& [path, bytes] : files.files) {
-            const auto known = sound.files.written.find(path);
-            EXPECT_TRUE(known != sound.files.written.end() && known->second.contains(bytes))
+            const auto known = sound.written.find(path);
+            EXPECT_TRUE(known != sound.written.end() && known->second.contains(bytes))
                 << path << ": " << ::testing::PrintToString(bytes);
         }
         EXPECT_TRUE(sound.documents.contains(session.seen("document"))) << session.seen("document");
@@ -65,6 +65,7 @@ public:
 
     Session session;
     MemoryFileSystem& files = session.app.files;
+    std::map<std::string, std::set<std::string>> written; ///< What each file held at any time.
     std::set<std::string> documents;
 };
 

@@ -18,10 +18,11 @@ public:
     std::map<std::string, std::string> files;
     std::set<std::string> unwritable; ///< Paths that refuse to be written.
 
-    mutable int operations = 0;                           ///< Readings, writings, copyings and listings so far.
-    mutable std::string failed;                           ///< What the failing operation was.
-    int failing = 0;                                      ///< The operation, counted from 1, that fails; 0: none.
-    std::map<std::string, std::set<std::string>> written; ///< All that was ever written, by path.
+    std::map<std::string, std::set<std::string>>* history = nullptr; ///< Takes all that is written, by path.
+
+    mutable int operations = 0; ///< Readings, writings, copyings and listings so far.
+    mutable std::string failed; ///< What the failing operation was.
+    int failing = 0;            ///< The operation, counted from 1, that fails; 0: none.
 
     bool fileExists(const std::string& path) const override { return files.contains(plain(path)); }
 
@@ -38,7 +39,8 @@ public:
         if (fails("writing " + path) || unwritable.contains(plain(path)))
             return path + ": not writable";
         files[plain(path)] = std::string(bytes);
-        written[plain(path)].emplace(bytes);
+        if (history)
+            (*history)[plain(path)].emplace(bytes);
         return {};
     }
 
