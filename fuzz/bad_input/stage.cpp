@@ -34,7 +34,8 @@ Stage::Stage(fs::path folder) : m_folder(std::move(folder))
     fs::create_directories(m_folder / "addon");
     fs::create_directories(m_folder / "elsewhere");
     fs::create_directories(m_folder / "program");
-    fs::copy(fs::path(KITWRIGHT_TOP) / "data/Bfdata", m_folder / "program/Bfdata", fs::copy_options::recursive);
+    fs::copy(fs::path(KITWRIGHT_TOP) / "data/Bfdata", m_folder / "program/Bfdata",
+             fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     EditorSettings settings;
     settings.PboFolder = path("elsewhere");
     settings.LanguageFile = path("program/Bfdata/languages/kitwright/english.lng");
