@@ -10,13 +10,13 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
 #ifdef Q_OS_UNIX
 #include <sys/stat.h>
 
-#include <cerrno>
 #include <unistd.h>
 #endif
 
@@ -67,12 +67,19 @@ void takeOwnership([[maybe_unused]] const QSaveFile& file, [[maybe_unused]] cons
 #endif
 }
 
+/// Why the device has just failed. The library knows no reason for some failures of the system, which tells its own.
+QString lastError(const QIODevice& device)
+{
+    return errno != 0 ? qt_error_string(errno) : device.errorString();
+}
+
 /// Brings what was written to the disk; an error text, empty on success. The library's own commit overlooks a disk
 /// that has no room for the last bytes, and would put a cut file in the old one's place.
 QString reachDisk(QSaveFile& file)
 {
+    errno = 0;
     if (!file.flush())
-        return file.errorString();
+        return lastError(file);
 #ifdef Q_OS_UNIX
     // Some file systems cannot sync, which they say with EINVAL.
     if (::fsync(file.handle()) != 0 && errno != EINVAL)
@@ -117,7 +124,8 @@ bool onlyInPlace(const QString& target)
 QString writeAll(QIODevice& device, std::string_view bytes)
 {
     const auto size = static_cast<qint64>(bytes.size());
-    return device.write(bytes.data(), size) == size ? QString() : device.errorString();
+    errno = 0;
+    return device.write(bytes.data(), size) == size ? QString() : lastError(device);
 }
 
 QString copyAll(QFile& source, QIODevice& device)
