@@ -7,6 +7,7 @@
 #include "services/paths.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace kitwright {
@@ -19,8 +20,9 @@ Failure copyOne(FileSystem& files, std::string_view CurrentFile, const FileCopy&
         return copy.from + ": the add-on has no folder yet";
     if (!isPlainFileName(copy.fileName))
         return copy.from + ": no file name to copy it to";
-    if (equalIgnoringCase(copy.fileName, FileNameOf(CurrentFile))
-        || equalIgnoringCase(copy.fileName, "Stringtable.csv"))
+    const std::string own[] = {FileNameOf(CurrentFile), "config.cpp", "Stringtable.csv"};
+    if (std::any_of(std::begin(own), std::end(own),
+                    [&copy](const std::string& name) { return equalIgnoringCase(copy.fileName, name); }))
         return copy.from + ": would replace the add-on's own " + copy.fileName;
     return files.copyFile(copy.from, FolderOf(CurrentFile) + copy.fileName);
 }

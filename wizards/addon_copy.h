@@ -37,7 +37,8 @@ private:
 
 /// Copies files into the folder of the document at `CurrentFile`, over files of the same name, and says in one line
 /// each what could not be copied. Nothing is written anywhere else: a name that is no plain file name is refused, and
-/// so is every copy while the document has no path. The document itself and its stringtable are never overwritten.
+/// so is every copy while the document has no path. The document itself, a config.cpp beside it and its stringtable
+/// are never overwritten.
 std::vector<std::string> copyIntoAddon(FileSystem& files, std::string_view CurrentFile,
                                        const std::vector<FileCopy>& copies);
 
