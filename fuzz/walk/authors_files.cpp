@@ -57,11 +57,13 @@ std::map<std::string, std::string> authorsFiles()
     files["/pictures/broken.jpg"] = jpg.substr(0, jpg.size() / 2);
     files["/models/gun.p3d"] = "a gun";
     files["/others/gun.p3d"] = "another gun";
+    files["/others/config.cpp"] = "class Another;\r\n";
+    files["/others/Stringtable.csv"] = "LANGUAGE,English\r\n$STRM_OTHER,Other\r\n";
     files["/models/a b.p3d"] = "a model";
     files["/models/Žluťásek.p3d"] = "a yellow model";
     files["/locked/inside/file"] = "";
     files["/addons/tank/config.cpp"] = tank;
-    files["/addons/tank/Stringtable.csv"] = "LANGUAGE,English,Czech\r\nSTR_TANK,Tank,Tank\r\n";
+    files["/addons/tank/Stringtable.csv"] = "LANGUAGE,English,Czech\r\n$STRM_TANK,Tank,Tank\r\n";
     files["/addons/gun/config.cpp"] =
         "class CfgWeapons\r\n{\r\n   class Default;\r\n   class Gun: Default\r\n   {\r\n   };\r\n};";
     files["/addons/table/config.cpp"] = "";

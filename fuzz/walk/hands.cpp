@@ -3,9 +3,11 @@
 
 #include "hands.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPointer>
 #include <QTest>
+#include <QThread>
 #include <QWheelEvent>
 #include <QWidget>
 #include <QWindow>
@@ -119,6 +121,10 @@ void Hands::wheel(QWidget& at, QPoint position, int notches, Qt::KeyboardModifie
 
 void Hands::key(int key, Qt::KeyboardModifiers modifiers, const QString& text)
 {
+    // A list adds a letter that follows within the same millisecond to what it searches.
+    constexpr unsigned long pause = 2; // ms
+    if (qobject_cast<QAbstractItemView*>(QApplication::focusWidget()))
+        QThread::msleep(pause);
     // Each half goes to the window that has the keyboard then: a press may open or close one.
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
         if (QWindow* window = QGuiApplication::focusWindow())

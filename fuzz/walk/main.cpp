@@ -63,8 +63,8 @@ int main(int argc, char* argv[])
     makeRepeatable();
     QApplication application(argc, argv);
     QApplication::setDoubleClickInterval(Hands::doubleClickInterval);
-    // Any pause is too long for a second letter to be added to a search in a list.
-    QApplication::setKeyboardInputInterval(-2);
+    // A letter typed into a list begins a new search.
+    QApplication::setKeyboardInputInterval(0);
 
     Coverage coverage;
     for (std::uint64_t i = 0; i < seeds; ++i, ++order.seed) {

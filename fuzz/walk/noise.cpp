@@ -179,6 +179,10 @@ Steps noise(Stage& stage, Moves& moves)
         return {{"popup", nameOf(window), [&moves, window] { moves.usePopup(*window); }}};
     if (window->isMinimized())
         return {{"restore", nameOf(window), [window] { window->showNormal(); }}};
+    // The desktop may end the program at any time, in a modal window, too.
+    constexpr std::size_t betweenQuits = 1'000;
+    if (stage.chance.below(betweenQuits) == 0)
+        return {{"quit", "from outside, " + nameOf(window), [] { QCoreApplication::quit(); }}};
     const std::size_t choice = stage.chance.below(100);
     if (choice < 45)
         return useControl(stage, moves, *window);

@@ -342,7 +342,9 @@ Steps shorten(Stage& stage, Moves& moves)
 Steps leave(Stage& stage, Moves& moves)
 {
     Teller tell(stage, moves);
-    if (tell.chance().percent(40)) {
+    if (tell.chance().percent(15)) {
+        tell.add("quit", "from outside", [] { QCoreApplication::quit(); });
+    } else if (tell.chance().percent(40)) {
         tell.menu("mnufilekonec");
     } else if (tell.chance().percent(50)) {
         tell.click("fmrconfigedit", "Command1");

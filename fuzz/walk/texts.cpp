@@ -70,6 +70,8 @@ constexpr std::array models = {
     "gun.p3d",
     "/models/..",
     "/others/gun.p3d",
+    "/others/config.cpp",
+    "/others/Stringtable.csv",
 };
 
 constexpr std::array documents = {

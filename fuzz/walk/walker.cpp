@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t mostText = 200'000; // Bytes; a longer document is emptied.
 constexpr std::size_t checkEvery = 200;   // Events.
 constexpr std::size_t undoEvery = 2'500;
+constexpr std::size_t quarters = 4;
 
 void print(const char* heading, const std::map<std::string, std::size_t>& counts)
 {
@@ -176,13 +177,16 @@ void Walker::letEventsRun()
 void Walker::checkNowAndThen()
 {
     const std::size_t events = m_stage.record.events();
-    if (events % checkEvery == 0)
+    if (events >= m_nextCheck) {
+        m_nextCheck = events + checkEvery;
         m_checks.nowAndThen();
-    if (events % undoEvery == 0 && !QApplication::activeModalWidget())
+    }
+    if (events >= m_nextUndo && !QApplication::activeModalWidget()) {
+        m_nextUndo = events + undoEvery;
         m_checks.undoAndRedo();
-    const std::size_t quarter = events * 4 / m_events;
-    if (quarter > 0 && events == m_events * quarter / 4)
-        m_megabytes[quarter - 1] = Record::peakMegabytes();
+    }
+    while (m_megabytes.size() < quarters && events * quarters >= m_events * (m_megabytes.size() + 1))
+        m_megabytes.push_back(Record::peakMegabytes());
 }
 
 void Walker::tell() const
@@ -193,8 +197,10 @@ void Walker::tell() const
     print("kinds", record.kinds());
     print("events with window", m_windows);
     print("counts", record.counts());
-    std::printf("  peak memory at the quarters: %ld, %ld, %ld, %ld MB\n", m_megabytes[0], m_megabytes[1],
-                m_megabytes[2], m_megabytes[3]);
+    std::printf("  peak memory at the quarters, MB:");
+    for (const long megabytes : m_megabytes)
+        std::printf(" %ld", megabytes);
+    std::printf("\n");
 }
 
 } // namespace kitwright::walking

@@ -10,8 +10,8 @@
 
 #include <QObject>
 
-#include <array>
 #include <deque>
+#include <vector>
 
 namespace kitwright::walking {
 
@@ -54,7 +54,9 @@ private:
     bool m_shortening = false;
     int m_stepsAfterClose = 0;
     std::map<std::string, std::size_t> m_windows; ///< Events that each window had while it was active.
-    std::array<long, 4> m_megabytes{};            ///< At the end of each quarter.
+    std::size_t m_nextCheck = 0;                  ///< Event.
+    std::size_t m_nextUndo = 0;
+    std::vector<long> m_megabytes; ///< At the end of each quarter.
 };
 
 } // namespace kitwright::walking

@@ -81,6 +81,8 @@ Failure WatchedFiles::writeBytes(const std::string& path, std::string_view bytes
 {
     const std::string target = plain(path);
     judge(target, bytes);
+    m_record.mix(target);
+    m_record.mix(bytes);
     const bool refused = refuses(target);
     if (target == settingsPath())
         m_hasSettings = !refused;
