@@ -12,6 +12,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPlainTextEdit>
 
 namespace kitwright::walking {
@@ -69,13 +70,19 @@ void Checks::checkWindows()
 void Checks::nowAndThen()
 {
     m_stage.files.checkDisk();
-    const auto* strings = m_stage.main().findChild<QDialog*>(QStringLiteral("Form4"));
-    if (!strings)
-        return;
-    const CodePage& codePage = windows1250();
-    if (!codePage.holds(fromQt(strings->findChild<QLineEdit*>(QStringLiteral("Text1"))->text()))
-        || !codePage.holds(fromQt(strings->findChild<QPlainTextEdit*>(QStringLiteral("Text2"))->toPlainText())))
+    if (const auto* strings = m_stage.main().findChild<QDialog*>(QStringLiteral("Form4")))
+        checkStrings(*strings);
+}
+
+void Checks::checkStrings(const QDialog& window)
+{
+    const QString key = window.findChild<QLineEdit*>(QStringLiteral("Text1"))->text();
+    const QString text = window.findChild<QPlainTextEdit*>(QStringLiteral("Text2"))->toPlainText();
+    if (!windows1250().holds(fromQt(key)) || !windows1250().holds(fromQt(text)))
         m_stage.record.fail("a box of the stringtable holds what the code page lacks");
+    const QListWidgetItem* current = window.findChild<QListWidget*>(QStringLiteral("List1"))->currentItem();
+    if (current && current->toolTip() != key)
+        m_stage.record.fail("the key that is shown is not the highlighted one");
 }
 
 void Checks::undoAndRedo()

@@ -25,6 +25,7 @@ private:
     void checkText(std::string_view text);
     void checkOpened();
     void checkWindows();
+    void checkStrings(const QDialog& window);
 
     Stage& m_stage;
     std::string m_text;

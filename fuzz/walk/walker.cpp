@@ -16,7 +16,7 @@ namespace kitwright::walking {
 namespace {
 
 constexpr std::size_t mostText = 200'000; // Bytes; a longer document is emptied.
-constexpr std::size_t checkEvery = 200;   // Events.
+constexpr std::size_t checkEvery = 50;    // Events.
 constexpr std::size_t undoEvery = 2'500;
 constexpr std::size_t quarters = 4;
 
