@@ -27,7 +27,8 @@ public:
     template <class Container>
     const auto& of(const Container& container)
     {
-        return *std::next(std::begin(container), static_cast<std::ptrdiff_t>(below(std::size(container))));
+        const auto size = static_cast<std::size_t>(std::size(container));
+        return *std::next(std::begin(container), static_cast<std::ptrdiff_t>(below(size)));
     }
 
 private:

@@ -51,7 +51,6 @@ private:
     std::deque<Step> m_plan;
     bool m_isPosted = false;
     bool m_isHeld = false; ///< A dialog of the desktop is open, or the program's events run alone.
-    bool m_shortening = false;
     int m_stepsAfterClose = 0;
     std::map<std::string, std::size_t> m_windows; ///< Events that each window had while it was active.
     std::size_t m_nextCheck = 0;                  ///< Event.
