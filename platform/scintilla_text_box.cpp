@@ -135,7 +135,14 @@ Selection ScintillaTextBox::selection() const
 void ScintillaTextBox::select(Position start, Position length)
 {
     const Selection part = cut(start, length);
-    m_control.SendScintilla(Sci::SCI_SETSELECTION, wide(part.start + part.length), static_cast<long>(part.start));
+    putCaret(part.start + part.length, part.start);
+}
+
+void ScintillaTextBox::putCaret(Position caret, Position anchor)
+{
+    // A rectangle that the author selected would come back with the next edit, wherever its corners lie by then.
+    m_control.SendScintilla(Sci::SCI_CLEARSELECTIONS);
+    m_control.SendScintilla(Sci::SCI_SETSELECTION, wide(caret), static_cast<long>(anchor));
 }
 
 void ScintillaTextBox::replaceSelection(std::string_view text)
@@ -169,7 +176,7 @@ void ScintillaTextBox::replaceRange(Position start, Position length, std::string
             return position - part.length - part.start + end;
         return std::min(position, end);
     };
-    m_control.SendScintilla(Sci::SCI_SETSELECTION, wide(moved(oldCaret)), static_cast<long>(moved(oldAnchor)));
+    putCaret(moved(oldCaret), moved(oldAnchor));
     settle();
 }
 

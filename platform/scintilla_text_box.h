@@ -46,6 +46,7 @@ public:
     void redo();
 
 private:
+    void putCaret(Position caret, Position anchor);
     void replaceTarget(std::string_view text);
     void hearChanges();
     void accessibilityActiveChanged(bool active) override;

@@ -63,6 +63,19 @@ TEST_F(Control, DropsWhatTheCodePageLacksAndMendsLineEndsHoweverTextComes)
     EXPECT_EQ(box.text(), "\r\n");
 }
 
+TEST_F(Control, ForgetsARectangleWhenTheProgramSelects)
+{
+    box.loadText("0123456");
+    box.select(7, 0);
+    QTest::keyClick(&control, Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+    type("x");
+    box.setText("012345");
+    box.replaceRange(6, 0, "\r\n9");
+    EXPECT_EQ(box.caret(), 0U);
+    type("y");
+    EXPECT_EQ(box.text(), "y012345\r\n9");
+}
+
 TEST_F(Control, AnswersEachEventOnceWithinItsUndoStep)
 {
     // The control hears of changes by another way while somebody listens to it through assistive technology.
