@@ -29,7 +29,8 @@ ClassBlock blockOf(const std::vector<ClassRecord>& classes, std::string_view Pat
 
 } // namespace
 
-/// The first piece is the name of the add-on, the others are classes: name, base class, and the values of the catalogue.
+/// The first piece is the name of the add-on, the others are classes: name, base class, and the values of the
+/// catalogue.
 void tryInput(std::string_view bytes)
 {
     Pieces pieces(bytes);

@@ -9,8 +9,8 @@
 
 namespace kitwright {
 
-/// What a list, a tree, a label or a tool tip shows of a UTF-8 text: of a very long one the start, more than any line has room for,
-/// and an ellipsis. The toolkit would lay out all of it.
+/// What a list, a tree, a label or a tool tip shows of a UTF-8 text: of a very long one the start, more than any line
+/// has room for, and an ellipsis. The toolkit would lay out all of it.
 QString shownText(std::string_view text);
 
 } // namespace kitwright

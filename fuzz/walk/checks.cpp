@@ -3,8 +3,10 @@
 
 #include "checks.h"
 
+#include "platform/qt_text.h"
 #include "platform/scintilla_control.h"
 #include "platform/scintilla_text_box.h"
+#include "platform/shown_text.h"
 #include "platform/text_files.h"
 #include "platform/windows_1250.h"
 #include "services/letter_case.h"
@@ -81,7 +83,7 @@ void Checks::checkStrings(const QDialog& window)
     if (!windows1250().holds(fromQt(key)) || !windows1250().holds(fromQt(text)))
         m_stage.record.fail("a box of the stringtable holds what the code page lacks");
     const QListWidgetItem* current = window.findChild<QListWidget*>(QStringLiteral("List1"))->currentItem();
-    if (current && current->toolTip() != key)
+    if (current && current->toolTip() != shownText(fromQt(key)))
         m_stage.record.fail("the key that is shown is not the highlighted one");
 }
 
