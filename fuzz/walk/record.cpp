@@ -44,8 +44,10 @@ extern "C" void crashed(int signal)
 void hear(QtMsgType, const QMessageLogContext& context, const QString& text)
 {
     const std::string category = context.category ? context.category : "";
-    // The platform without a screen tells of every window that it cannot place or raise.
-    if (text.startsWith(QLatin1String("This plugin does not support")))
+    // The platform without a screen tells of every window that it cannot place or raise; a one-line box, of a drag over
+    // what an input method is still composing, which selects nothing.
+    if (text.startsWith(QLatin1String("This plugin does not support"))
+        || text == QLatin1String("QWidgetLineControl::setSelection: Invalid start position"))
         return;
     Record* record = current;
     if (!record)
