@@ -25,15 +25,23 @@ namespace kitwright {
 namespace {
 
 /// The path as the system takes it; empty for one with a NUL, which no file can bear. A backslash separates folders,
-/// unless a file bears the name as it stands.
+/// unless a file or folder bears the name as it stands.
 QString nativePath(const std::string& path)
 {
     if (path.find('\0') != std::string::npos)
         return {};
-    const QString name = toQt(path);
-    if (!name.contains(QLatin1Char('\\')) || QFileInfo::exists(name))
-        return name;
-    return QString(name).replace(QLatin1Char('\\'), QLatin1Char('/'));
+    QString native;
+    for (const QString& name : toQt(path).split(QLatin1Char('/'))) {
+        // The start of the name that stands on the disk with its backslashes, up to one of them or all of it.
+        qsizetype length = name.size();
+        while (length > 0 && name.lastIndexOf(QLatin1Char('\\'), length - 1) >= 0
+               && !QFileInfo::exists(native + name.left(length)))
+            length = name.lastIndexOf(QLatin1Char('\\'), length - 1);
+        native +=
+            name.left(length) + name.mid(length).replace(QLatin1Char('\\'), QLatin1Char('/')) + QLatin1Char('/');
+    }
+    native.chop(1);
+    return native;
 }
 
 std::string reason(const QString& path, const QString& error)

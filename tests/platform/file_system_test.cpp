@@ -163,6 +163,12 @@ TEST_F(Disk, ListsFoldersAndTakesABackslashAsSeparator)
     EXPECT_FALSE(files.listFiles(at("missing")) || files.listFolders(at("old.txt")));
     put("a\\b", "bears the name as it stands");
     EXPECT_EQ(*files.readBytes(at("a\\b")), "bears the name as it stands");
+    for (const char* folder : {"c\\d", "c", "c/d"})
+        fs::create_directory(at(folder));
+    for (const char* file : {"c\\d/new.txt", "c\\d\\other.txt"})
+        EXPECT_EQ(files.writeBytes(at(file), "inside"), Failure());
+    EXPECT_EQ(files.listFiles(at("c\\d"))->size(), 2);
+    EXPECT_EQ(*files.listFiles(at("c/d")), Names());
 }
 
 TEST_F(Disk, HoldsOldOrNewFilesWheneverASaveOrACopyIsKilled)
