@@ -3,17 +3,31 @@
 
 #include "services/config_scanner.h"
 
+#include "platform/utf8.h"
 #include "services/find_text.h"
 #include "services/letter_case.h"
 
 namespace kitwright {
+
+namespace {
+
+/// Where a character of a UTF-8 text starts, counted from 0; the length of the text when it has not so many.
+std::size_t offsetOf(std::string_view text, int character)
+{
+    std::size_t offset = 0;
+    for (; character > 0 && offset < text.size(); --character)
+        offset += utf8At(text, offset).length;
+    return offset;
+}
+
+} // namespace
 
 void ReadPatchClassName(std::string_view text, std::string& PatchClassName)
 {
     constexpr std::string_view keyword = "CFGPATCHES";
     const std::size_t found = findIgnoringCase(text, keyword);
     // The scan starts on the keyword's last letter; without a keyword, on the ninth character.
-    const std::size_t start = found == std::string_view::npos ? 8 : found + keyword.size() - 1;
+    const std::size_t start = found == std::string_view::npos ? offsetOf(text, 8) : found + keyword.size() - 1;
 
     long depth = 0;
     bool entered = false;
