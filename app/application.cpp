@@ -9,9 +9,11 @@
 #include "app/wait_window.h"
 #include "lang/apply_language.h"
 #include "lang/language_chooser.h"
+#include "lang/language_folder.h"
 #include "platform/qt_text.h"
 #include "platform/report.h"
 #include "services/folder_chooser.h"
+#include "services/paths.h"
 #include "stringtable/stringtable_window.h"
 #include "tools/about_window.h"
 #include "tools/colour_maker.h"
@@ -99,6 +101,7 @@ void Application::loadSettings()
         report(lcApp(), "reading the settings", failure);
         if (failure)
             m_insteadOfUnread = m_state.Settings;
+        findLanguage();
         // Without a chosen language the designer's captions stand.
         if (!m_state.Settings.LanguageFile.empty())
             applyLanguage(m_state.Settings.LanguageFile);
@@ -107,6 +110,15 @@ void Application::loadSettings()
     saveSettings();
     m_state.Settings.PboFolder = m_state.programFolder;
     showModal(u"Form7");
+}
+
+/// A program folder that was moved, or whose name the settings cannot hold, keeps the language that was chosen in it.
+void Application::findLanguage()
+{
+    std::string& chosen = m_state.Settings.LanguageFile;
+    const std::string own = m_main.context().inProgramFolder(languageFolder) + '/' + FileNameOf(chosen);
+    if (!m_desktop.files.fileExists(chosen) && m_desktop.files.fileExists(own))
+        chosen = own;
 }
 
 void Application::loadVehicles()

@@ -62,6 +62,7 @@ private:
     void loadClasses();
     void loadCommands();
     void loadSettings();
+    void findLanguage();
     void loadVehicles();
     void applyLanguage(const std::string& path);
     void runModal(QDialog& dialog);
