@@ -13,7 +13,6 @@
 #include "platform/line_number_margin.h"
 #include "platform/qt_text.h"
 #include "platform/report.h"
-#include "platform/shown_text.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -66,9 +65,13 @@ void fmrconfigedit::connectDocumentCommands()
     const auto command = [this](QAbstractButton* button, QAction* action, auto handler) {
         connect(button, &QAbstractButton::clicked, this, handler);
         connect(action, &QAction::triggered, this, handler);
-        // The button's tool tip is the caption of its menu entry, in any language.
-        connect(action, &QAction::changed, button,
-                [button, action] { button->setToolTip(shownText(fromQt(action->text()))); });
+        // The button bears the caption of its menu entry, in any language that has one.
+        connect(action, &QAction::changed, button, [button, action] {
+            if (const QString caption = action->toolTip(); !caption.isEmpty()) {
+                button->setToolTip(caption);
+                button->setAccessibleName(caption);
+            }
+        });
     };
     command(m_ui->cmdnew, m_ui->mnufilenew, [this] { m_commands.newDocument(); });
     command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });
@@ -227,7 +230,7 @@ void fmrconfigedit::layOut()
 
 void fmrconfigedit::setCaption(const std::string& caption)
 {
-    setWindowTitle(shownText(caption));
+    setWindowTitle(toQt(caption));
 }
 
 void fmrconfigedit::setColouringEnabled(bool enabled)

@@ -10,6 +10,21 @@
 
 namespace kitwright {
 
+namespace {
+
+/// Alt and the first letter or digit of a caption that is not taken; empty when there is none.
+QKeySequence freeKey(const QString& caption, const QSet<QKeySequence>& taken)
+{
+    for (const QChar letter : caption.toUpper()) {
+        const QKeySequence key(QStringLiteral("Alt+%1").arg(letter));
+        if (letter.isLetterOrNumber() && letter.unicode() < 0x80 && !taken.contains(key))
+            return key;
+    }
+    return {};
+}
+
+} // namespace
+
 MenuKeys::MenuKeys(QMenuBar& bar) : QObject(&bar), m_bar(bar)
 {
     for (QAction* entry : m_bar.actions()) {
@@ -28,18 +43,17 @@ MenuKeys::MenuKeys(QMenuBar& bar) : QObject(&bar), m_bar(bar)
 
 void MenuKeys::assign()
 {
-    QSet<QChar> taken;
+    QSet<QKeySequence> taken;
     const QList<QAction*> entries = m_bar.actions();
+    // A caption with a "&" has a key already, from the toolkit.
+    for (const QAction* entry : entries)
+        taken << QKeySequence::mnemonic(entry->text());
     for (qsizetype i = 0; i < entries.size(); ++i) {
-        QKeySequence keys;
-        for (const QChar letter : entries[i]->text().toUpper()) {
-            if (letter.isLetterOrNumber() && letter.unicode() < 0x80 && !taken.contains(letter)) {
-                taken << letter;
-                keys = QKeySequence(QStringLiteral("Alt+%1").arg(letter));
-                break;
-            }
-        }
-        m_keys[static_cast<std::size_t>(i)]->setKey(keys);
+        QKeySequence key;
+        if (QKeySequence::mnemonic(entries[i]->text()).isEmpty())
+            key = freeKey(entries[i]->text(), taken);
+        taken << key;
+        m_keys[static_cast<std::size_t>(i)]->setKey(key);
     }
 }
 
