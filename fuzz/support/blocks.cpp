@@ -46,9 +46,11 @@ std::vector<PropertySetting> harmless(std::vector<PropertySetting> settings)
 void checkShape(std::string_view block)
 {
     require(hasOnlyCrLf(block), "lines end with CR LF");
+    constexpr std::string_view lineEnd = "\r\n";
     int depth = 0;
-    for (const std::string_view line : dataLines(block)) {
-        const std::string_view words = trimmedSpaces(line);
+    for (std::size_t start = 0, end = 0; start < block.size(); start = end + lineEnd.size()) {
+        end = std::min(block.find(lineEnd, start), block.size());
+        const std::string_view words = trimmedSpaces(block.substr(start, end - start));
         require(words != "};" || depth > 0, "no brace closes that was not opened");
         depth += words == "{" ? 1 : words == "};" ? -1 : 0;
         require(words.find_first_of("{}") == words.npos || words == "{" || words == "};" || words.ends_with("{};"),
