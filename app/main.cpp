@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/application.h"
+#include "platform/fatal_signals.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_file_system.h"
 #include "platform/qt_program_launcher.h"
@@ -9,9 +10,13 @@
 #include "platform/windows_1250.h"
 
 #include <QApplication>
+#include <QLoggingCategory>
 
 int main(int argc, char* argv[])
 {
+    kitwright::ignoreFatalSignals();
+    // A picture that cannot be read is told of in one line of the editor's own.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
     QApplication desktop(argc, argv);
     QApplication::setApplicationName(QStringLiteral("kitwright"));
 
