@@ -72,6 +72,7 @@ void Form7::confirm()
     if (path != m_context.state.Settings.LanguageFile) {
         // A file that has gone since the list was filled must not become the language of every later start.
         if (!m_context.files.fileExists(path)) {
+            report(lcLanguage(), "choosing a language", path + ": no such file");
             listLanguages();
             return;
         }

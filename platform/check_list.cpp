@@ -19,14 +19,26 @@ CheckList::CheckList(QWidget* parent) : QListWidget(parent)
         // An entry that became current as the list took the keyboard focus is shown highlighted like any other.
         if (!item(row)->isSelected())
             selectionModel()->select(currentIndex(), QItemSelectionModel::ClearAndSelect);
-        Q_EMIT entryClicked(row);
+        tell(row);
     });
     connect(this, &QListWidget::itemChanged, this, [this](const QListWidgetItem* item) { itemTicked(*item); });
     // A second click on the entry that is current already changes nothing in the list, but is a click all the same.
     connect(this, &QListWidget::itemClicked, this, [this](const QListWidgetItem* item) {
-        if (!m_quiet)
-            Q_EMIT entryClicked(row(item));
+        if (!m_quiet && !m_told)
+            tell(row(item));
     });
+}
+
+void CheckList::mousePressEvent(QMouseEvent* event)
+{
+    m_told = false;
+    QListWidget::mousePressEvent(event);
+}
+
+void CheckList::tell(int row)
+{
+    m_told = true;
+    Q_EMIT entryClicked(row);
 }
 
 int CheckList::addEntry(const QString& text, const QString& toolTip)
@@ -84,7 +96,7 @@ void CheckList::choose(int row)
     if (row < 0 || row >= count())
         return;
     if (currentRow() == row)
-        Q_EMIT entryClicked(row);
+        tell(row);
     else
         setCurrentRow(row);
 }
@@ -110,7 +122,7 @@ void CheckList::itemTicked(const QListWidgetItem& item)
     if (ticked != currentRow())
         setCurrentRow(ticked);
     else
-        Q_EMIT entryClicked(ticked);
+        tell(ticked);
 }
 
 } // namespace kitwright

@@ -48,9 +48,12 @@ Q_SIGNALS:
     void entryClicked(int row);
 
 private:
+    void mousePressEvent(QMouseEvent* event) override;
     void itemTicked(const QListWidgetItem& item);
+    void tell(int row);
 
     bool m_quiet = false;
+    bool m_told = false; ///< `entryClicked` was sent since a mouse button was pressed.
 };
 
 } // namespace kitwright

@@ -21,7 +21,7 @@ TEST(CheckList, HighlightsAnEntryHoweverItsTickIsSetButNotForTheProgram)
     std::string told;
     QObject::connect(&list, &CheckList::entryClicked, &list, [&](int row) {
         EXPECT_TRUE(list.currentRow() == row && list.item(row)->isSelected());
-        told = std::to_string(row) + (list.isTicked(row) ? " ticked" : "");
+        told += std::to_string(row) + (list.isTicked(row) ? " ticked. " : ". ");
     });
     const auto click = [&](int row, bool onTickBox) {
         QStyleOptionViewItem option;
@@ -32,13 +32,14 @@ TEST(CheckList, HighlightsAnEntryHoweverItsTickIsSetButNotForTheProgram)
         QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, box.center() + QPoint(onTickBox ? 0 : 25, 0));
     };
     const std::pair<std::function<void()>, std::string> cases[] = {
-        {[&] { click(1, true); }, "1 ticked"},
-        {[&] { click(2, false); }, "2"},
-        {[&] { click(1, true); }, "1"},
-        {[&] { QTest::keyClick(&list, Qt::Key_Down); }, "2"},
-        {[&] { QTest::keyClick(&list, Qt::Key_Space); }, "2 ticked"},
-        {[&] { list.item(0)->setCheckState(Qt::Checked); }, "0 ticked"},
-        {[&] { list.choose(2); }, "2 ticked"},
+        {[&] { click(1, true); }, "1 ticked. "},
+        {[&] { click(2, false); }, "2. "},
+        {[&] { click(1, true); }, "1. "},
+        {[&] { QTest::keyClick(&list, Qt::Key_Down); }, "2. "},
+        {[&] { QTest::keyClick(&list, Qt::Key_Space); }, "2 ticked. "},
+        {[&] { list.item(0)->setCheckState(Qt::Checked); }, "0 ticked. "},
+        {[&] { list.choose(2); }, "2 ticked. "},
+        {[&] { click(2, false); }, "2 ticked. "},
         {[&] { list.choose(3); }, ""},
         {[&] { list.setTicked(2, false); }, ""},
         {[&] { list.setEntryText(0, "renamed"); }, ""},
