@@ -5,11 +5,15 @@
 
 #include "platform/outcome.h"
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace kitwright {
+
+/// Bytes of the largest file that is read: more than any add-on's text or picture has, and a memory's worth less.
+inline constexpr std::size_t largestFile = 256'000'000;
 
 /// The one way to the disk. Paths are UTF-8; '/' and '\' both separate folders. Nothing here throws, and no
 /// failure leaves a half-written file behind.
@@ -20,7 +24,14 @@ public:
     /// True for a file that can be seen, links followed; false for a folder or anything else.
     virtual bool fileExists(const std::string& path) const = 0;
 
-    /// The whole content of a regular file, byte for byte.
+    /// The file that a write to the path reaches: its folders and itself as they really are, links followed. It need
+    /// not exist. Failure when its folder does not, or when links go round in a circle.
+    virtual Outcome<std::string> realPath(const std::string& path) const = 0;
+
+    /// The folder, as it really is, in which a file or link lies. Failure when there is none.
+    virtual Outcome<std::string> realFolder(const std::string& path) const = 0;
+
+    /// The whole content of a regular file, byte for byte. One of more than `largestFile` is a failure.
     virtual Outcome<std::string> readBytes(const std::string& path) const = 0;
 
     /// Creates or replaces the file, whole or not at all. A link stays a link, access modes stay as they were.

@@ -6,6 +6,7 @@
 #include "platform/qt_text.h"
 #include "platform/write_in_place.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
@@ -49,14 +50,35 @@ std::string reason(const QString& path, const QString& error)
     return fromQt(path + QLatin1String(": ") + error);
 }
 
-/// The file behind a chain of links, which need not exist; the path itself when it is no link.
-QString linkTarget(const QString& path)
+/// See `FileSystem::realFolder`.
+Outcome<QString> folderOf(const QString& path)
 {
-    QString target = path;
+    const QString folder = path.isEmpty() ? QString() : QFileInfo(QFileInfo(path).path()).canonicalFilePath();
+    return folder.isEmpty() ? Outcome<QString>::failed(reason(path, qt_error_string(ENOENT))) : folder;
+}
+
+/// See `FileSystem::realPath`. Each link is read by itself, and from the folder that it really lies in: only there does
+/// a ".." in it mean what it means to the system.
+Outcome<QString> fileBehind(const QString& path)
+{
     constexpr int maxLinks = 40; // As many as the kernel follows; more is a circle.
-    for (int links = 0; links < maxLinks && QFileInfo(target).isSymLink(); ++links)
-        target = QFileInfo(target).symLinkTarget();
-    return target;
+    QString target = path;
+    for (int links = 0; links < maxLinks; ++links) {
+        const Outcome<QString> folder = folderOf(target);
+        if (!folder)
+            return folder;
+        const QDir dir(*folder);
+        target = dir.filePath(QFileInfo(target).fileName());
+        if (!QFileInfo(target).isSymbolicLink())
+            return target;
+        std::error_code error;
+        const std::filesystem::path next =
+            std::filesystem::read_symlink(QFileInfo(target).filesystemFilePath(), error);
+        if (error)
+            return Outcome<QString>::failed(reason(path, QString::fromStdString(error.message())));
+        target = dir.filePath(QFileInfo(next).filePath());
+    }
+    return Outcome<QString>::failed(reason(path, qt_error_string(ELOOP)));
 }
 
 /// Gives the new file the owner and the modes of the one that it replaces, as far as the system lets us.
@@ -101,15 +123,14 @@ QString reachDisk(QSaveFile& file)
 template <class Content>
 Failure replaceFile(const QString& path, const Content& content)
 {
-    const QString target = linkTarget(path);
-    const QFileInfo before(target);
+    const QFileInfo before(path);
     if (before.exists() && !before.isFile())
         return reason(path, QStringLiteral("not a regular file"));
 
-    QSaveFile file(target);
+    QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return reason(path, file.errorString());
-    takeOwnership(file, target);
+    takeOwnership(file, path);
     QString error = content(file);
     if (error.isEmpty())
         error = reachDisk(file);
@@ -122,11 +143,26 @@ Failure replaceFile(const QString& path, const Content& content)
     return {};
 }
 
-/// True where a file can be written to, but its folder takes no new file beside it.
+/// True where a new file could not be given the owner of this one.
+bool keepsItsOwner([[maybe_unused]] const QFileInfo& file)
+{
+#ifdef Q_OS_UNIX
+    return ::geteuid() != 0 && file.ownerId() != ::geteuid();
+#else
+    return false;
+#endif
+}
+
+/// True where a file can be written to, but none beside it that could take its place.
 bool onlyInPlace(const QString& target)
 {
+    constexpr qsizetype longestName =
+        240; // Bytes; the name of the new file is longer, and a file system takes 255.
     const QFileInfo info(target);
-    return info.isFile() && info.isWritable() && !QFileInfo(info.absolutePath()).isWritable();
+    if (!info.isFile() || !info.isWritable())
+        return false;
+    return !QFileInfo(info.path()).isWritable() || keepsItsOwner(info)
+        || QFile::encodeName(info.fileName()).size() > longestName;
 }
 
 QString writeAll(QIODevice& device, std::string_view bytes)
@@ -153,6 +189,11 @@ bool isSameFile(const QString& left, const QString& right)
 {
     const QString target = QFileInfo(right).canonicalFilePath();
     return !target.isEmpty() && QFileInfo(left).canonicalFilePath() == target;
+}
+
+Outcome<std::string> inUtf8(const Outcome<QString>& path)
+{
+    return path ? Outcome<std::string>(fromQt(*path)) : Outcome<std::string>::failed(path.reason());
 }
 
 /// The names of those entries of a folder that are wanted, in the order in which the system lists them.
@@ -193,6 +234,16 @@ bool QtFileSystem::fileExists(const std::string& path) const
     return !path.empty() && QFileInfo(nativePath(path)).isFile();
 }
 
+Outcome<std::string> QtFileSystem::realPath(const std::string& path) const
+{
+    return inUtf8(fileBehind(nativePath(path)));
+}
+
+Outcome<std::string> QtFileSystem::realFolder(const std::string& path) const
+{
+    return inUtf8(folderOf(nativePath(path)));
+}
+
 Outcome<std::string> QtFileSystem::readBytes(const std::string& path) const
 {
     using Bytes = Outcome<std::string>;
@@ -203,46 +254,56 @@ Outcome<std::string> QtFileSystem::readBytes(const std::string& path) const
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
         return Bytes::failed(reason(name, file.errorString()));
 
-    std::string bytes(static_cast<std::size_t>(file.size()), '\0');
-    qint64 read = 0;
-    while (read < static_cast<qint64>(bytes.size())) {
-        const qint64 got = file.read(bytes.data() + read, static_cast<qint64>(bytes.size()) - read);
-        if (got <= 0)
-            break;
-        read += got;
+    const auto size = static_cast<std::size_t>(file.size());
+    std::string bytes;
+    std::size_t read = 0;
+    for (std::size_t room = size; read == bytes.size() && room <= largestFile; room = 2 * read + 4'096) {
+        bytes.resize(room + 1); // One more than there should be, to see the end. Some systems tell no size.
+        while (read < bytes.size()) {
+            const qint64 got = file.read(bytes.data() + read, static_cast<qint64>(bytes.size() - read));
+            if (got <= 0)
+                break;
+            read += static_cast<std::size_t>(got);
+        }
     }
-    if (read < static_cast<qint64>(bytes.size()))
-        return Bytes::failed(reason(name, QStringLiteral("read only %1 of %2 bytes").arg(read).arg(bytes.size())));
+    if (read == bytes.size())
+        return Bytes::failed(reason(name, QStringLiteral("too large a file")));
+    if (read < size)
+        return Bytes::failed(reason(name, QStringLiteral("read only %1 of %2 bytes").arg(read).arg(size)));
+    bytes.resize(read);
     return bytes;
 }
 
 Failure QtFileSystem::writeBytes(const std::string& path, std::string_view bytes)
 {
-    const QString name = nativePath(path);
-    const QString target = linkTarget(name);
-    if (onlyInPlace(target)) {
-        const QString error = writeInPlace(target, bytes);
-        return error.isEmpty() ? Failure() : Failure(reason(name, error));
+    const Outcome<QString> target = fileBehind(nativePath(path));
+    if (!target)
+        return target.reason();
+    if (onlyInPlace(*target)) {
+        const QString error = writeInPlace(*target, bytes);
+        return error.isEmpty() ? Failure() : Failure(reason(*target, error));
     }
-    return replaceFile(name, [&](QIODevice& device) { return writeAll(device, bytes); });
+    return replaceFile(*target, [&](QIODevice& device) { return writeAll(device, bytes); });
 }
 
 Failure QtFileSystem::copyFile(const std::string& from, const std::string& to)
 {
     const QString source = nativePath(from);
-    const QString target = nativePath(to);
     if (!QFileInfo(source).isFile())
         return reason(source, QStringLiteral("not a file"));
-    if (isSameFile(source, target))
+    const Outcome<QString> target = fileBehind(nativePath(to));
+    if (!target)
+        return target.reason();
+    if (isSameFile(source, *target))
         return {};
-    if (onlyInPlace(linkTarget(target))) {
+    if (onlyInPlace(*target)) {
         const Outcome<std::string> bytes = readBytes(from);
         return bytes ? writeBytes(to, *bytes) : Failure(bytes.reason());
     }
     QFile file(source);
     if (!file.open(QIODevice::ReadOnly))
         return reason(source, file.errorString());
-    return replaceFile(target, [&](QIODevice& device) { return copyAll(file, device); });
+    return replaceFile(*target, [&](QIODevice& device) { return copyAll(file, device); });
 }
 
 Outcome<std::vector<std::string>> QtFileSystem::listFiles(const std::string& folder) const

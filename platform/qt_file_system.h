@@ -11,6 +11,8 @@ namespace kitwright {
 class QtFileSystem final : public FileSystem {
 public:
     bool fileExists(const std::string& path) const override;
+    Outcome<std::string> realPath(const std::string& path) const override;
+    Outcome<std::string> realFolder(const std::string& path) const override;
     Outcome<std::string> readBytes(const std::string& path) const override;
     Failure writeBytes(const std::string& path, std::string_view bytes) override;
     Failure copyFile(const std::string& from, const std::string& to) override;

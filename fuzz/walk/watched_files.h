@@ -56,6 +56,8 @@ public:
     static std::string settingsPath() { return "/program/Kitwright.cfg"; }
 
     bool fileExists(const std::string& path) const override { return m_files.fileExists(path); }
+    Outcome<std::string> realPath(const std::string& path) const override { return m_files.realPath(path); }
+    Outcome<std::string> realFolder(const std::string& path) const override { return m_files.realFolder(path); }
     Outcome<std::string> readBytes(const std::string& path) const override { return m_files.readBytes(path); }
     Failure writeBytes(const std::string& path, std::string_view bytes) override;
     Failure copyFile(const std::string& from, const std::string& to) override;

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "platform/fatal_signals.h"
 #include "platform/qt_file_system.h"
 #include "platform/qt_text.h"
 #include "platform/write_in_place.h"
@@ -56,11 +57,13 @@ struct Disk : ::testing::Test {
 
 TEST_F(Disk, ReplacesFilesAndKeepsTheirModes)
 {
+    const std::string longName(250, 'n'); // As long as leaves no room for the name of a temporary file.
+    put(longName, "old");
     for (const mode_t mode : {0600U, 0755U, 0666U}) {
         ::chmod(at("old.txt").c_str(), mode);
         for (const std::string& bytes :
              {std::string("\0\r\n\x1A\xFF longer", 12), std::string("new"), std::string()}) {
-            for (const char* name : {"old.txt", "žluťoučký kůň.cpp"}) {
+            for (const std::string& name : {std::string("old.txt"), std::string("žluťoučký kůň.cpp"), longName}) {
                 EXPECT_EQ(files.writeBytes(at(name), bytes), Failure());
                 EXPECT_EQ(content(name), bytes);
                 EXPECT_EQ(*files.readBytes(at(name)), bytes);
@@ -68,7 +71,7 @@ TEST_F(Disk, ReplacesFilesAndKeepsTheirModes)
         }
         EXPECT_EQ(fs::status(at("old.txt")).permissions(), fs::perms(mode));
     }
-    EXPECT_EQ(entries(), 2);
+    EXPECT_EQ(entries(), 3);
 }
 
 TEST_F(Disk, WritesThroughLinksAndLeavesAFileCopiedOntoItself)
@@ -91,6 +94,35 @@ TEST_F(Disk, WritesThroughLinksAndLeavesAFileCopiedOntoItself)
         EXPECT_TRUE(fs::is_symlink(at(link))) << link;
 }
 
+TEST_F(Disk, FollowsLinksAsTheSystemDoes)
+{
+    for (const char* folder : {"data/deep/proj", "data/deep/shared", "home/shared"})
+        fs::create_directories(at(folder));
+    fs::create_directory_symlink("../data/deep/proj", at("home/project"));
+    fs::create_symlink("../shared/config.cpp", at("data/deep/proj/config.cpp"));
+    put("home/shared/config.cpp", "another's");
+    const std::string path = at("home/project/config.cpp");
+    for (const char* text : {"new", "replaced"}) {
+        EXPECT_EQ(files.writeBytes(path, text), Failure());
+        EXPECT_EQ(content("data/deep/shared/config.cpp"), text);
+    }
+    EXPECT_EQ(content("home/shared/config.cpp"), "another's");
+    EXPECT_EQ(*files.realPath(path), fs::canonical(path));
+    EXPECT_EQ(*files.realFolder(path), fs::canonical(at("data/deep/proj")));
+
+    fs::create_symlink("b", at("a"));
+    fs::create_symlink("a", at("b"));
+    EXPECT_TRUE(files.writeBytes(at("a"), "new") && files.copyFile(path, at("b")));
+    EXPECT_TRUE(fs::is_symlink(at("a")) && fs::is_symlink(at("b")));
+}
+
+TEST_F(Disk, ReadsToTheEndButNothingEndless)
+{
+    fs::resize_file(at("old.txt"), largestFile + 1);
+    EXPECT_FALSE(files.readBytes(at("old.txt")));
+    EXPECT_FALSE(files.readBytes("/proc/version")->empty()); // Tells a size of 0.
+}
+
 TEST_F(Disk, RefusesWhatIsNoRegularFile)
 {
     fs::create_directory(at("folder"));
@@ -110,7 +142,7 @@ TEST_F(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull)
 {
     rlimit before = {};
     ::getrlimit(RLIMIT_FSIZE, &before);
-    const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+    ignoreFatalSignals();
     // A write that buffers take whole fails no sooner than when it ends.
     const std::pair<std::size_t, rlim_t> cases[] = {{200'000, 64 * 1024}, {5'000, 1024}};
     for (const auto& [size, limit] : cases) {
@@ -126,12 +158,15 @@ TEST_F(Disk, LeavesTheOldFileWholeWhenTheDiskIsFull)
         EXPECT_EQ(content("old.txt"), "old") << size;
         EXPECT_EQ(entries(), 2) << size;
     }
-    std::signal(SIGXFSZ, handler);
 }
 
 TEST_F(Disk, WritesInPlaceWhereTheFolderTakesNoNewFile)
 {
     put("theirs.txt", "theirs");
+    fs::create_directory(at("ours"));
+    put("ours/theirs.txt", "theirs");
+    for (const char* name : {"ours", "ours/theirs.txt"})
+        ::chmod(at(name).c_str(), 0777);
     ::chmod(at("old.txt").c_str(), 0666);
     ::chmod(at("theirs.txt").c_str(), 0444);
     ::chmod(at("").c_str(), 0555);
@@ -145,11 +180,17 @@ TEST_F(Disk, WritesInPlaceWhereTheFolderTakesNoNewFile)
     }
     EXPECT_EQ(files.copyFile(at("theirs.txt"), at("old.txt")), Failure());
     EXPECT_EQ(content("old.txt"), "theirs");
+    // A new file in the old one's place would be ours.
+    EXPECT_EQ(files.writeBytes(at("ours/theirs.txt"), "shared"), Failure());
     EXPECT_TRUE(files.writeBytes(at("theirs.txt"), "mine") && files.writeBytes(at("new.txt"), "new"));
     ASSERT_TRUE(!isRoot || ::setresuid(0, 0, 0) == 0);
     ::chmod(at("").c_str(), 0755);
     EXPECT_EQ(content("theirs.txt"), "theirs");
-    EXPECT_EQ(entries(), 2);
+    EXPECT_EQ(content("ours/theirs.txt"), "shared");
+    struct stat shared = {};
+    EXPECT_EQ(::stat(at("ours/theirs.txt").c_str(), &shared), 0);
+    EXPECT_EQ(shared.st_uid, ::geteuid());
+    EXPECT_EQ(entries(), 3);
 }
 
 TEST_F(Disk, ListsFoldersAndTakesABackslashAsSeparator)

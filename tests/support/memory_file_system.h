@@ -16,7 +16,8 @@ namespace kitwright::testing {
 class MemoryFileSystem final : public FileSystem {
 public:
     std::map<std::string, std::string> files;
-    std::set<std::string> unwritable; ///< Paths that refuse to be written.
+    std::map<std::string, std::string> links; ///< What stands behind a path, when it is a link.
+    std::set<std::string> unwritable;         ///< Paths that refuse to be written.
 
     std::map<std::string, std::set<std::string>>* history = nullptr; ///< Takes all that is written, by path.
 
@@ -24,23 +25,30 @@ public:
     mutable std::string failed; ///< What the failing operation was.
     int failing = 0;            ///< The operation, counted from 1, that fails; 0: none.
 
-    bool fileExists(const std::string& path) const override { return files.contains(plain(path)); }
+    bool fileExists(const std::string& path) const override { return files.contains(at(path)); }
+
+    Outcome<std::string> realPath(const std::string& path) const override { return at(path); }
+
+    Outcome<std::string> realFolder(const std::string& path) const override
+    {
+        return plain(path).substr(0, plain(path).rfind('/'));
+    }
 
     Outcome<std::string> readBytes(const std::string& path) const override
     {
         if (fails("reading " + path))
             return Outcome<std::string>::failed(path + ": not readable");
-        const auto found = files.find(plain(path));
+        const auto found = files.find(at(path));
         return found == files.end() ? Outcome<std::string>::failed(path + ": no such file") : found->second;
     }
 
     Failure writeBytes(const std::string& path, std::string_view bytes) override
     {
-        if (fails("writing " + path) || unwritable.contains(plain(path)))
+        if (fails("writing " + path) || unwritable.contains(at(path)))
             return path + ": not writable";
-        files[plain(path)] = std::string(bytes);
+        files[at(path)] = std::string(bytes);
         if (history)
-            (*history)[plain(path)].emplace(bytes);
+            (*history)[at(path)].emplace(bytes);
         return {};
     }
 
@@ -83,7 +91,17 @@ private:
             if (path.starts_with(prefix) && listed)
                 names.insert(path.substr(prefix.size(), end - prefix.size()));
         }
+        for (const auto& [path, target] : links) {
+            if (!folders && plain(path).starts_with(prefix))
+                names.insert(path.substr(prefix.size()));
+        }
         return std::vector<std::string>(names.begin(), names.end());
+    }
+
+    std::string at(const std::string& path) const
+    {
+        const auto link = links.find(plain(path));
+        return link == links.end() ? plain(path) : link->second;
     }
 
     static std::string plain(const std::string& path)
