@@ -14,7 +14,6 @@ namespace {
 
 constexpr const char* configFilter = "Config files|*.cpp*";
 constexpr const char* configAndAllFilter = "Config files|*.cpp*|All files|*.*";
-constexpr const char* stringtableName = "Stringtable.csv";
 
 /// Bytes of the longest line that is opened. The control lays a line out whole at every keystroke in it, for about a
 /// second at this length; no config has such a line, but the wrong file may have.
@@ -66,11 +65,7 @@ bool DocumentCommands::UlozAddon()
     if (CurrentFile.empty() && !askForFile())
         return false;
     const bool written = UlozConfig(CurrentFile);
-    // A document of that very name would be replaced by its own stringtable.
-    if (equalIgnoringCase(FileNameOf(CurrentFile), stringtableName))
-        m_surroundings.stepFailed("writing the stringtable", CurrentFile + ": the document itself lies there");
-    else
-        m_surroundings.WriteStringtable(FolderOf(CurrentFile) + stringtableName);
+    m_surroundings.WriteStringtable(FolderOf(CurrentFile) + "Stringtable.csv");
     return written;
 }
 
@@ -116,8 +111,17 @@ void DocumentCommands::makePbo()
     }
     if (m_context.state.PatchClassName.empty())
         askForPatchClassName();
-    m_surroundings.stepFailed("starting the packer", m_launcher.start(m_context.inProgramFolder("/brakpak.exe"),
-                                                                      packerArgument(m_context.state)));
+    m_surroundings.stepFailed("starting the packer", startPacker());
+}
+
+/// The name of the add-on names the packer's file. One out of a stranger's document may be made to lead elsewhere, or
+/// to give the packer further orders.
+Failure DocumentCommands::startPacker()
+{
+    const std::string& name = m_context.state.PatchClassName;
+    if (!name.empty() && (!isPlainFileName(name) || name.find(',') != std::string::npos))
+        return name + ": cannot name a file";
+    return m_launcher.start(m_context.inProgramFolder("/brakpak.exe"), packerArgument(m_context.state));
 }
 
 void DocumentCommands::VlozText(const std::string& Jmeno)

@@ -60,6 +60,7 @@ private:
     bool UlozConfig(const std::string& Cesta);
     bool askForFile();
     void askForPatchClassName();
+    Failure startPacker();
 
     Context& m_context;
     ProgramLauncher& m_launcher;

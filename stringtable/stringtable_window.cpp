@@ -220,7 +220,7 @@ void Form4::WriteStringtable(const std::string& path)
     takeTicks();
     const QString shown = currentText();
     const bool wasEmpty = m_ui->List1->count() == 0;
-    report(lcStringtable(), "writing the stringtable", m_store.save(path));
+    report(lcStringtable(), "writing the stringtable", m_store.save(path, m_context.state.CurrentFile));
     // A file that stood there may have brought keys, languages and texts.
     showNewKeys();
     showLanguages();

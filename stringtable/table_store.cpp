@@ -3,6 +3,7 @@
 
 #include "stringtable/table_store.h"
 
+#include "services/addon_files.h"
 #include "services/letter_case.h"
 #include "services/paths.h"
 
@@ -27,10 +28,12 @@ Failure TableStore::open(const std::string& folder)
     return failure;
 }
 
-Failure TableStore::save(const std::string& path)
+Failure TableStore::save(const std::string& path, const std::string& CurrentFile)
 {
     Failure unseen;
     const std::string target = existingName(path, unseen);
+    if (const Outcome<std::string> place = placeBeside(m_files, CurrentFile, target); !place)
+        return place.reason();
     const bool exists = m_files.fileExists(target);
     if (exists) {
         const Outcome<std::string> text = read(target);

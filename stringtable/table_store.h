@@ -25,10 +25,11 @@ public:
     /// `folder` (with its closing separator) is read. No file there is no failure.
     Failure open(const std::string& folder);
 
-    /// Writes the table to `path`. A file there that was not read yet, or that changed since, is taken in first;
-    /// one that cannot be read is left as it is, which is a failure. A file that already holds just this is not
-    /// written anew.
-    Failure save(const std::string& path);
+    /// Writes the table to `path`, beside the document at `CurrentFile`. A file there that was not read yet, or that
+    /// changed since, is taken in first; one that cannot be read, that is the document itself, or that a link leads
+    /// to from elsewhere, is left as it is, which is a failure. A file that already holds just this is not written
+    /// anew.
+    Failure save(const std::string& path, const std::string& CurrentFile);
 
 private:
     std::string existingName(const std::string& path, Failure& failure) const;

@@ -3,11 +3,11 @@
 
 #include "wizards/addon_copy.h"
 
+#include "services/addon_files.h"
 #include "services/letter_case.h"
 #include "services/paths.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace kitwright {
@@ -20,11 +20,16 @@ Failure copyOne(FileSystem& files, std::string_view CurrentFile, const FileCopy&
         return copy.from + ": the add-on has no folder yet";
     if (!isPlainFileName(copy.fileName))
         return copy.from + ": no file name to copy it to";
-    const std::string own[] = {FileNameOf(CurrentFile), "config.cpp", "Stringtable.csv"};
-    if (std::any_of(std::begin(own), std::end(own),
-                    [&copy](const std::string& name) { return equalIgnoringCase(copy.fileName, name); }))
-        return copy.from + ": would replace the add-on's own " + copy.fileName;
-    return files.copyFile(copy.from, FolderOf(CurrentFile) + copy.fileName);
+    const std::string to = FolderOf(CurrentFile) + copy.fileName;
+    const Outcome<std::string> place = placeBeside(files, std::string(CurrentFile), to);
+    if (!place)
+        return copy.from + ": " + place.reason();
+    for (const std::string& name : {copy.fileName, FileNameOf(*place)}) {
+        if (equalIgnoringCase(name, FileNameOf(CurrentFile)) || equalIgnoringCase(name, "config.cpp")
+            || equalIgnoringCase(name, "Stringtable.csv"))
+            return copy.from + ": would replace the add-on's own " + name;
+    }
+    return files.copyFile(copy.from, to);
 }
 
 } // namespace

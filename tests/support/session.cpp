@@ -155,6 +155,7 @@ Session::Session()
           {"quit", [this](Text path, Text) { quit(path); }},
           {"put", [this](Text path, Text text) { app.file(path) = windows1250().encode(text); }},
           {"put-bytes", [this](Text path, Text bytes) { app.file(path) = bytes; }},
+          {"link", [this](Text path, Text target) { app.files.links[path] = target; }},
           {"lock", [this](Text path, Text) { app.files.unwritable.insert(path); }},
           {"remove", [this](Text path, Text) { remove(app.files, path); }},
           {"answer", [this](Text dialog, Text text) { app.dialogs.answers[dialog].push_back(text); }},
