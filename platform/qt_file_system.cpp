@@ -11,6 +11,7 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -143,8 +144,8 @@ Failure replaceFile(const QString& path, const Content& content)
     return {};
 }
 
-/// True where a new file could not be given the owner of this one.
-bool keepsItsOwner([[maybe_unused]] const QFileInfo& file)
+/// True for a file whose owner could not be given to a new one.
+bool wouldChangeHands([[maybe_unused]] const QFileInfo& file)
 {
 #ifdef Q_OS_UNIX
     return ::geteuid() != 0 && file.ownerId() != ::geteuid();
@@ -156,12 +157,11 @@ bool keepsItsOwner([[maybe_unused]] const QFileInfo& file)
 /// True where a file can be written to, but none beside it that could take its place.
 bool onlyInPlace(const QString& target)
 {
-    constexpr qsizetype longestName =
-        240; // Bytes; the name of the new file is longer, and a file system takes 255.
+    constexpr qsizetype longestName = 240; // Bytes; that of the new file is longer, and 255 are taken.
     const QFileInfo info(target);
     if (!info.isFile() || !info.isWritable())
         return false;
-    return !QFileInfo(info.path()).isWritable() || keepsItsOwner(info)
+    return !QFileInfo(info.path()).isWritable() || wouldChangeHands(info)
         || QFile::encodeName(info.fileName()).size() > longestName;
 }
 
@@ -257,17 +257,16 @@ Outcome<std::string> QtFileSystem::readBytes(const std::string& path) const
     const auto size = static_cast<std::size_t>(file.size());
     std::string bytes;
     std::size_t read = 0;
-    for (std::size_t room = size; read == bytes.size() && room <= largestFile; room = 2 * read + 4'096) {
-        bytes.resize(room + 1); // One more than there should be, to see the end. Some systems tell no size.
-        while (read < bytes.size()) {
-            const qint64 got = file.read(bytes.data() + read, static_cast<qint64>(bytes.size() - read));
-            if (got <= 0)
-                break;
-            read += static_cast<std::size_t>(got);
-        }
+    for (qint64 got = 1; got != 0; read += static_cast<std::size_t>(got)) {
+        if (std::max(read, size) > largestFile)
+            return Bytes::failed(reason(name, QStringLiteral("too large a file")));
+        // One more than there should be, to see the end. Some systems tell no size.
+        if (read == bytes.size())
+            bytes.resize(std::max(size, 2 * read + 4'095) + 1);
+        got = file.read(bytes.data() + read, static_cast<qint64>(bytes.size() - read));
+        if (got < 0)
+            return Bytes::failed(reason(name, file.errorString()));
     }
-    if (read == bytes.size())
-        return Bytes::failed(reason(name, QStringLiteral("too large a file")));
     if (read < size)
         return Bytes::failed(reason(name, QStringLiteral("read only %1 of %2 bytes").arg(read).arg(size)));
     bytes.resize(read);

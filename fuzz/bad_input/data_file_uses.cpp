@@ -171,13 +171,19 @@ std::string useVehicles(Play& play)
     return entries(count);
 }
 
+/// The properties of a new face in the document.
+CheckList& newFace(Play& play)
+{
+    play.program.openDocument(play.stage.path(document));
+    play.program.use("mnuwizardfaces");
+    play.program.use("Command1", "frmfaceaddon");
+    return play.program.control<CheckList>("seznam2", "frmfaceaddon");
+}
+
 std::string useFaces(Play& play)
 {
     Program& program = play.program;
-    program.openDocument(play.stage.path(document));
-    program.use("mnuwizardfaces");
-    program.use("Command1", "frmfaceaddon");
-    auto& properties = program.control<CheckList>("seznam2", "frmfaceaddon");
+    CheckList& properties = newFace(play);
     program.clickThrough(properties);
     tickCurrent(program, properties, "Text1", "frmfaceaddon");
     const int count = properties.count();
@@ -229,10 +235,7 @@ std::string useLanguage(Play& play)
 std::string usePicture(Play& play)
 {
     Program& program = play.program;
-    program.openDocument(play.stage.path(document));
-    program.use("mnuwizardfaces");
-    program.use("Command1", "frmfaceaddon");
-    auto& properties = program.control<CheckList>("seznam2", "frmfaceaddon");
+    CheckList& properties = newFace(play);
     properties.choose(fileRow(play, "program/Bfdata/kitwright/Kitwrightface.dat"));
     QTest::keyClick(&properties, Qt::Key_Space);
     program.dialogs.fileToOpen = play.stage.path("elsewhere/face.jpg");
