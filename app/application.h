@@ -7,9 +7,9 @@
 #include "app/keyword_list.h"
 #include "app/main_window.h"
 #include "app/window_supplier.h"
-#include "platform/plain_labels.h"
 #include "services/keyword_tree.h"
 #include "services/shared_state.h"
+#include "widgets/plain_labels.h"
 #include "wizards/class_record.h"
 
 #include <QPointer>

@@ -3,7 +3,7 @@
 
 #include "app/browser_clicks.h"
 
-#include "platform/utf8.h"
+#include "text/utf8.h"
 
 namespace kitwright {
 

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "app/keyword_list.h"
-#include "platform/rich_text_box.h"
 #include "services/settings.h"
+#include "text/rich_text_box.h"
 
 #include <optional>
 #include <string>

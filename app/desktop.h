@@ -6,7 +6,7 @@
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/program_launcher.h"
-#include "platform/text_files.h"
+#include "text/text_files.h"
 
 namespace kitwright {
 

@@ -5,8 +5,8 @@
 
 #include "app/starting_text.h"
 #include "services/config_scanner.h"
-#include "services/letter_case.h"
 #include "services/paths.h"
+#include "text/letter_case.h"
 
 namespace kitwright {
 

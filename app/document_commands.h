@@ -5,8 +5,8 @@
 
 #include "platform/dialogs.h"
 #include "platform/program_launcher.h"
-#include "platform/text_files.h"
 #include "services/context.h"
+#include "text/text_files.h"
 
 #include <string>
 

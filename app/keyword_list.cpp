@@ -3,7 +3,7 @@
 
 #include "app/keyword_list.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <array>

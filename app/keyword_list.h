@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/text_files.h"
 #include "services/searches.h"
+#include "text/text_files.h"
 
 #include <cstdint>
 #include <string>

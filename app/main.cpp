@@ -7,7 +7,7 @@
 #include "platform/qt_file_system.h"
 #include "platform/qt_program_launcher.h"
 #include "platform/qt_text.h"
-#include "platform/windows_1250.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QLoggingCategory>

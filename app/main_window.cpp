@@ -8,9 +8,9 @@
 #include "app/log.h"
 #include "app/menu_keys.h"
 #include "app/wait_window.h"
-#include "platform/brace_matcher.h"
-#include "platform/find_bar.h"
-#include "platform/line_number_margin.h"
+#include "editor/brace_matcher.h"
+#include "editor/find_bar.h"
+#include "editor/line_number_margin.h"
 #include "platform/qt_text.h"
 #include "platform/report.h"
 #include "ui_main_window.h"
@@ -108,13 +108,13 @@ void fmrconfigedit::connectWindows()
 
 void fmrconfigedit::connectBrowsers()
 {
-    // The handlers get at the nodes through the trees that start-up has shown; an empty browser sends no click.
-    connect(m_ui->classes, &BrowserTree::nodeClicked, this, [this](const TreeNode& node) {
-        classClicked(*this, node, m_context.state.Settings.DeclareFromRoot);
+    // The trees are those that start-up has shown; an empty browser sends no click.
+    connect(m_ui->classes, &BrowserTree::entryClicked, this, [this](std::size_t index) {
+        classClicked(*this, m_classes->nodes()[index], m_context.state.Settings.DeclareFromRoot);
         m_ui->configedit->ensureCursorVisible();
     });
-    connect(m_ui->commands, &BrowserTree::nodeClicked, this, [this](const TreeNode& node) {
-        commandClicked(*this, node);
+    connect(m_ui->commands, &BrowserTree::entryClicked, this, [this](std::size_t index) {
+        commandClicked(*this, m_commandTree->nodes()[index]);
         m_ui->configedit->ensureCursorVisible();
     });
 }
@@ -122,8 +122,16 @@ void fmrconfigedit::connectBrowsers()
 void fmrconfigedit::showTrees(const KeywordTree& classes, const KeywordTree& commands)
 {
     m_classes = &classes;
-    m_ui->classes->showTree(classes);
-    m_ui->commands->showTree(commands);
+    m_commandTree = &commands;
+    const auto show = [](BrowserTree& browser, const KeywordTree& tree) {
+        std::vector<BrowserEntry> entries;
+        entries.reserve(tree.nodes().size());
+        for (const TreeNode& node : tree.nodes())
+            entries.push_back({node.text, node.parent, node.isHeading()});
+        browser.showEntries(entries);
+    };
+    show(*m_ui->classes, classes);
+    show(*m_ui->commands, commands);
 }
 
 void fmrconfigedit::showFitted()

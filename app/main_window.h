@@ -9,7 +9,7 @@
 #include "app/live_colouring.h"
 #include "app/proportional_layout.h"
 #include "app/window_supplier.h"
-#include "platform/scintilla_text_box.h"
+#include "editor/scintilla_text_box.h"
 #include "services/context.h"
 
 #include <QMainWindow>
@@ -81,6 +81,7 @@ private:
     LiveColouring m_live;
     DocumentCommands m_commands;
     const KeywordTree* m_classes = nullptr;
+    const KeywordTree* m_commandTree = nullptr;
 
     int m_changes = 0;           ///< Open document changes.
     bool m_colouringDue = false; ///< A full pass waits for their end.

@@ -4,12 +4,12 @@
 #include "app/colouring.h"
 
 #include "app/live_colouring.h"
-#include "platform/scintilla_control.h"
-#include "platform/scintilla_text_box.h"
-#include "platform/windows_1250.h"
+#include "editor/scintilla_control.h"
+#include "editor/scintilla_text_box.h"
 #include "services/keyword_tree.h"
 #include "support/ratios.h"
 #include "support/sample.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QPlainTextEdit>

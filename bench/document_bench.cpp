@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "editor/scintilla_control.h"
+#include "editor/scintilla_text_box.h"
 #include "platform/qt_file_system.h"
-#include "platform/scintilla_control.h"
-#include "platform/scintilla_text_box.h"
-#include "platform/text_files.h"
-#include "platform/windows_1250.h"
 #include "support/ratios.h"
 #include "support/sample.h"
+#include "text/text_files.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QFile>

@@ -5,8 +5,8 @@
 #include "platform/qt_dialogs.h"
 #include "platform/qt_file_system.h"
 #include "platform/qt_program_launcher.h"
-#include "platform/windows_1250.h"
 #include "support/ratios.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QDir>

@@ -3,13 +3,13 @@
 
 #include "app/application.h"
 #include "app/colouring.h"
-#include "platform/check_list.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_file_system.h"
 #include "platform/qt_program_launcher.h"
-#include "platform/windows_1250.h"
 #include "support/ratios.h"
 #include "support/sample.h"
+#include "text/windows_1250.h"
+#include "widgets/check_list.h"
 #include "wizards/class_wizard.h"
 #include "wizards/wizard_commands.h"
 

@@ -3,9 +3,9 @@
 
 #include "tools/colour_text.h"
 
-#include "services/list_file.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/list_file.h"
 
 #include <algorithm>
 #include <cmath>

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/colouring.h"
-#include "services/letter_case.h"
 #include "support/input.h"
 #include "support/keywords.h"
 #include "support/string_text_box.h"
 #include "support/target.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <optional>

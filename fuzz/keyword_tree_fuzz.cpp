@@ -3,10 +3,10 @@
 
 #include "services/keyword_tree.h"
 
-#include "platform/text_files.h"
-#include "services/letter_case.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/letter_case.h"
+#include "text/text_files.h"
 
 #include <unordered_set>
 

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "services/list_file.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/list_file.h"
 
 #include <algorithm>
 #include <cmath>

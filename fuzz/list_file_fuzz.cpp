@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "services/list_file.h"
+#include "text/list_file.h"
 
-#include "platform/text_files.h"
-#include "services/letter_case.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/letter_case.h"
+#include "text/text_files.h"
 #include "wizards/catalogue.h"
 
 #include <algorithm>

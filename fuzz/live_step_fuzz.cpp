@@ -5,11 +5,11 @@
 
 #include "app/colouring.h"
 #include "app/live_colouring.h"
-#include "services/letter_case.h"
 #include "support/input.h"
 #include "support/keywords.h"
 #include "support/string_text_box.h"
 #include "support/target.h"
+#include "text/letter_case.h"
 
 #include <set>
 

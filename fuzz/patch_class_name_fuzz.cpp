@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "services/config_scanner.h"
-#include "services/letter_case.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/letter_case.h"
 
 namespace kitwright::fuzzing {
 

@@ -3,10 +3,10 @@
 
 #include "services/patch_list.h"
 
-#include "services/find_text.h"
 #include "support/input.h"
 #include "support/string_text_box.h"
 #include "support/target.h"
+#include "text/find_text.h"
 
 namespace kitwright::fuzzing {
 

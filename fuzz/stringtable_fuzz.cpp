@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/text_files.h"
 #include "stringtable/string_table.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/text_files.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/text_files.h"
-#include "services/letter_case.h"
 #include "services/paths.h"
 #include "support/input.h"
 #include "support/target.h"
+#include "text/letter_case.h"
+#include "text/text_files.h"
 
 namespace kitwright::fuzzing {
 

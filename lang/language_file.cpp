@@ -3,7 +3,7 @@
 
 #include "lang/language_file.h"
 
-#include "platform/text_files.h"
+#include "text/text_files.h"
 
 namespace kitwright {
 

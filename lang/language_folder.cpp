@@ -3,7 +3,7 @@
 
 #include "lang/language_folder.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <utility>

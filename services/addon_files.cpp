@@ -3,7 +3,7 @@
 
 #include "services/addon_files.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 namespace kitwright {
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/rich_text_box.h"
 #include "services/keyword_tree.h"
+#include "text/rich_text_box.h"
 
 #include <string>
 

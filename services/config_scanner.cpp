@@ -3,9 +3,9 @@
 
 #include "services/config_scanner.h"
 
-#include "platform/utf8.h"
-#include "services/find_text.h"
-#include "services/letter_case.h"
+#include "text/find_text.h"
+#include "text/letter_case.h"
+#include "text/utf8.h"
 
 namespace kitwright {
 

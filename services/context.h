@@ -5,9 +5,9 @@
 
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
-#include "platform/text_files.h"
 #include "services/addon_host.h"
 #include "services/shared_state.h"
+#include "text/text_files.h"
 
 namespace kitwright {
 

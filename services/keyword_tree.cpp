@@ -3,7 +3,7 @@
 
 #include "services/keyword_tree.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <unordered_map>

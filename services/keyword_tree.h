@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/text_files.h"
+#include "text/text_files.h"
 
 #include <optional>
 #include <string>

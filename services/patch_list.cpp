@@ -3,8 +3,8 @@
 
 #include "services/patch_list.h"
 
-#include "services/find_text.h"
-#include "services/letter_case.h"
+#include "text/find_text.h"
+#include "text/letter_case.h"
 
 #include <optional>
 

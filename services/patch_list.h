@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/rich_text_box.h"
+#include "text/rich_text_box.h"
 
 #include <span>
 #include <string>

@@ -3,8 +3,8 @@
 
 #include "services/searches.h"
 
-#include "platform/utf8.h"
-#include "services/letter_case.h"
+#include "text/letter_case.h"
+#include "text/utf8.h"
 
 namespace kitwright {
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/code_page.h"
 #include "platform/file_system.h"
+#include "text/code_page.h"
 
 #include <cstdint>
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "stringtable/string_table.h"
 
-#include "platform/text_files.h"
+#include "text/text_files.h"
 
 #include <algorithm>
 #include <utility>

@@ -6,8 +6,8 @@
 #include "platform/qt_text.h"
 #include "platform/report.h"
 #include "platform/shown_text.h"
-#include "services/list_file.h"
 #include "services/paths.h"
+#include "text/list_file.h"
 #include "ui_stringtable_window.h"
 
 #include <QSignalBlocker>

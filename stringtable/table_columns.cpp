@@ -3,7 +3,7 @@
 
 #include "stringtable/table_columns.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 

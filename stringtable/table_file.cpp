@@ -3,8 +3,8 @@
 
 #include "stringtable/table_file.h"
 
-#include "services/letter_case.h"
 #include "stringtable/table_columns.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <utility>

@@ -4,8 +4,8 @@
 #include "stringtable/table_store.h"
 
 #include "services/addon_files.h"
-#include "services/letter_case.h"
 #include "services/paths.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 

@@ -3,8 +3,8 @@
 
 #pragma once
 
-#include "platform/text_files.h"
 #include "stringtable/string_table.h"
+#include "text/text_files.h"
 
 #include <string>
 

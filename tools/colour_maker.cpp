@@ -4,7 +4,7 @@
 #include "tools/colour_maker.h"
 
 #include "platform/qt_text.h"
-#include "services/list_file.h"
+#include "text/list_file.h"
 #include "tools/colour_text.h"
 #include "ui_colour_maker.h"
 

@@ -3,7 +3,7 @@
 
 #include "wizards/catalogue.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <algorithm>
 #include <iterator>

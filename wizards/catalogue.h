@@ -3,9 +3,9 @@
 
 #pragma once
 
-#include "platform/text_files.h"
-#include "services/list_file.h"
 #include "services/searches.h"
+#include "text/list_file.h"
+#include "text/text_files.h"
 
 #include <cstdint>
 #include <string>

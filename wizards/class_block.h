@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "services/list_file.h"
+#include "text/list_file.h"
 #include "wizards/addon_copy.h"
 #include "wizards/class_record.h"
 

@@ -3,8 +3,8 @@
 
 #include "wizards/face_block.h"
 
-#include "services/find_text.h"
 #include "services/paths.h"
+#include "text/find_text.h"
 #include "wizards/catalogue.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 
 #include "platform/dialogs.h"
 #include "services/context.h"
-#include "services/list_file.h"
+#include "text/list_file.h"
 #include "wizards/class_record.h"
 #include "wizards/wizard_dialog.h"
 

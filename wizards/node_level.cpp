@@ -3,7 +3,7 @@
 
 #include "wizards/node_level.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <charconv>
 #include <string>

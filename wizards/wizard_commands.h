@@ -4,7 +4,7 @@
 #pragma once
 
 #include "services/context.h"
-#include "services/list_file.h"
+#include "text/list_file.h"
 #include "wizards/class_record.h"
 
 #include <span>

@@ -4,7 +4,7 @@
 #include "support/sample.h"
 
 #include "platform/qt_file_system.h"
-#include "platform/windows_1250.h"
+#include "text/windows_1250.h"
 
 namespace kitwright::bench {
 

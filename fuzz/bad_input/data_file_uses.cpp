@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/browser_tree.h"
-#include "platform/check_list.h"
 #include "play.h"
-#include "services/list_file.h"
+#include "text/list_file.h"
+#include "widgets/browser_tree.h"
+#include "widgets/check_list.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/check_list.h"
 #include "play.h"
+#include "widgets/check_list.h"
 
 #include <QApplication>
 #include <QListWidget>

@@ -3,7 +3,7 @@
 
 #include "program.h"
 
-#include "platform/windows_1250.h"
+#include "text/windows_1250.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -3,8 +3,8 @@
 
 #include "stage.h"
 
-#include "platform/windows_1250.h"
 #include "services/settings.h"
+#include "text/windows_1250.h"
 
 #include <fstream>
 #include <functional>

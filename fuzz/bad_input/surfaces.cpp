@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "pictures.h"
-#include "platform/windows_1250.h"
 #include "play.h"
 #include "services/settings.h"
+#include "text/windows_1250.h"
 
 #include <fstream>
 #include <iterator>

@@ -3,11 +3,11 @@
 
 #include "support/blocks.h"
 
-#include "platform/text_files.h"
-#include "services/letter_case.h"
 #include "services/paths.h"
 #include "support/memory_file_system.h"
 #include "support/target.h"
+#include "text/letter_case.h"
+#include "text/text_files.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 
 #include "support/input.h"
 
-#include "platform/utf8.h"
+#include "text/utf8.h"
 
 #include <algorithm>
 #include <array>

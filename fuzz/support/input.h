@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/code_page.h"
+#include "text/code_page.h"
 
 #include <string>
 #include <string_view>

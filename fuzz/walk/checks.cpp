@@ -3,13 +3,13 @@
 
 #include "checks.h"
 
+#include "editor/scintilla_control.h"
+#include "editor/scintilla_text_box.h"
 #include "platform/qt_text.h"
-#include "platform/scintilla_control.h"
-#include "platform/scintilla_text_box.h"
 #include "platform/shown_text.h"
-#include "platform/text_files.h"
-#include "platform/windows_1250.h"
-#include "services/letter_case.h"
+#include "text/letter_case.h"
+#include "text/text_files.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QDialog>

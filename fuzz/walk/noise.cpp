@@ -3,7 +3,7 @@
 
 #include "noise.h"
 
-#include "platform/scintilla_control.h"
+#include "editor/scintilla_control.h"
 #include "texts.h"
 
 #include <QApplication>

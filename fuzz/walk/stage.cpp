@@ -3,8 +3,8 @@
 
 #include "stage.h"
 
-#include "platform/scintilla_control.h"
-#include "platform/windows_1250.h"
+#include "editor/scintilla_control.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QDialog>

@@ -4,9 +4,9 @@
 #include "watched_files.h"
 
 #include "authors_files.h"
-#include "platform/windows_1250.h"
-#include "services/letter_case.h"
 #include "services/paths.h"
+#include "text/letter_case.h"
+#include "text/windows_1250.h"
 
 #include <algorithm>
 

@@ -3,10 +3,10 @@
 
 #pragma once
 
-#include "platform/code_page.h"
 #include "record.h"
 #include "services/shared_state.h"
 #include "support/memory_file_system.h"
+#include "text/code_page.h"
 
 #include <map>
 #include <set>

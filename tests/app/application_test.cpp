@@ -4,8 +4,8 @@
 #include "app/application.h"
 
 #include "lang/caption_table.h"
-#include "platform/windows_1250.h"
 #include "support/session.h"
+#include "text/windows_1250.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -3,13 +3,13 @@
 
 #pragma once
 
+#include "editor/scintilla_control.h"
+#include "editor/scintilla_text_box.h"
 #include "fuzz/support/keywords.h"
-#include "platform/scintilla_control.h"
-#include "platform/scintilla_text_box.h"
-#include "platform/windows_1250.h"
 #include "support/scenario.h"
 #include "support/style_marks.h"
 #include "support/typing.h"
+#include "text/windows_1250.h"
 
 #include <gtest/gtest.h>
 

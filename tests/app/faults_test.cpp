@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "platform/windows_1250.h"
 #include "support/session.h"
+#include "text/windows_1250.h"
 
 #include <gtest/gtest.h>
 

@@ -3,10 +3,10 @@
 
 #include "services/patch_list.h"
 
-#include "platform/scintilla_control.h"
-#include "platform/scintilla_text_box.h"
-#include "platform/windows_1250.h"
+#include "editor/scintilla_control.h"
+#include "editor/scintilla_text_box.h"
 #include "support/scenario.h"
+#include "text/windows_1250.h"
 
 #include <gtest/gtest.h>
 

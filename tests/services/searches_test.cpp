@@ -3,7 +3,7 @@
 
 #include "services/searches.h"
 
-#include "services/letter_case.h"
+#include "text/letter_case.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 
 #include "services/settings.h"
 
-#include "platform/windows_1250.h"
 #include "support/memory_file_system.h"
+#include "text/windows_1250.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 
 #include "support/running_application.h"
 
-#include "platform/windows_1250.h"
+#include "text/windows_1250.h"
 
 #include <QAbstractButton>
 #include <QAction>

@@ -3,9 +3,9 @@
 
 #include "support/session.h"
 
-#include "platform/windows_1250.h"
 #include "support/style_marks.h"
 #include "support/typing.h"
+#include "text/windows_1250.h"
 
 #include <QAction>
 #include <QComboBox>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "fuzz/support/keywords.h"
-#include "platform/rich_text_box.h"
+#include "text/rich_text_box.h"
 
 #include <string>
 

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "platform/qt_text.h"
-#include "platform/rich_text_box.h"
+#include "text/rich_text_box.h"
 
 #include <QTest>
 

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "editor/scintilla_text_box.h"
+
+#include "editor/scintilla_control.h"
+#include "text/windows_1250.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethodEvent>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace kitwright {
+namespace {
+
+/// The real control as a person uses it. While `answers` is set, a "!" is put in front of the text after each change.
+struct Control : ::testing::Test, TextObserver {
+    Control() { box.setObserver(this); }
+    bool willEditAfter(const PendingEdit& /*edit*/) override { return answers; }
+    void textChanged(ChangeOrigin origin) override
+    {
+        ++heard;
+        if (answers && origin == ChangeOrigin::Edit)
+            box.replaceRange(0, 0, "!");
+    }
+
+    void type(const QString& text) { QTest::sendKeyEvent(QTest::Click, &control, Qt::Key_unknown, text, {}); }
+    void ctrl(Qt::Key key) { QTest::keyClick(&control, key, Qt::ControlModifier); }
+    void paste(const QString& text)
+    {
+        QGuiApplication::clipboard()->setText(text);
+        ctrl(Qt::Key_V);
+    }
+    void compose(const QString& preedit, const QString& commit)
+    {
+        QInputMethodEvent event(preedit, {});
+        event.setCommitString(commit);
+        QCoreApplication::sendEvent(&control, &event);
+    }
+
+    ScintillaControl control;
+    ScintillaTextBox box{control, windows1250()};
+    bool answers = false;
+    int heard = 0;
+};
+
+TEST_F(Control, DropsWhatTheCodePageLacksAndMendsLineEndsHoweverTextComes)
+{
+    for (const char* typed : {"a", "ž", "日", "\u2212", "😀"})
+        type(typed);
+    paste("😀č\n\u2003\r\n…\r");
+    EXPECT_EQ(box.text(), "až-č\r\n \r\n…\r\n");
+    compose("´", {});
+    compose({}, "á日\u2010");
+    QTest::keyClick(&control, Qt::Key_Return);
+    box.replaceRange(0, 1, "😀\xFFq\n");
+    EXPECT_EQ(box.text(), "q\r\nž-č\r\n \r\n…\r\ná-\r\n");
+    EXPECT_EQ(box.caret(), box.length());
+    box.setText("日\r");
+    EXPECT_EQ(box.text(), "\r\n");
+}
+
+TEST_F(Control, ForgetsARectangleWhenTheProgramSelects)
+{
+    box.loadText("0123456");
+    box.select(7, 0);
+    QTest::keyClick(&control, Qt::Key_Left, Qt::AltModifier | Qt::ShiftModifier);
+    type("x");
+    box.setText("012345");
+    box.replaceRange(6, 0, "\r\n9");
+    EXPECT_EQ(box.caret(), 0U);
+    type("y");
+    EXPECT_EQ(box.text(), "y012345\r\n9");
+}
+
+TEST_F(Control, AnswersEachEventOnceWithinItsUndoStep)
+{
+    // The control hears of changes by another way while somebody listens to it through assistive technology.
+    answers = true;
+    for (const bool spoken : {false, true}) {
+        QAccessible::setActive(spoken);
+        heard = 0;
+        box.loadText("abc");
+        box.select(3, 0);
+        type("x");
+        paste("y");
+        QTest::keyClick(&control, Qt::Key_Backspace);
+        QTest::keyClick(&control, Qt::Key_Left);
+        EXPECT_EQ(box.text(), "!!!abcx");
+        EXPECT_EQ(heard, 3);
+        for (const char* earlier : {"!!abcxy", "!abcx"}) {
+            ctrl(Qt::Key_Z);
+            EXPECT_EQ(box.text(), earlier);
+        }
+        compose("´", {});
+        EXPECT_EQ(heard, 5);
+        compose({}, "á");
+        EXPECT_EQ(heard, 6);
+        control.append("z"); // An edit of the control's own interface is answered once events run.
+        QCoreApplication::processEvents();
+        EXPECT_EQ(heard, 7);
+    }
+    QAccessible::setActive(false);
+}
+
+TEST_F(Control, LendsOutStyleNumbersAgain)
+{
+    // There are fewer than 256. However many are free when a map comes, its styles must not be mixed up.
+    for (std::uint32_t used = 230; used < 260; ++used) {
+        box.loadText("abcd");
+        for (std::uint32_t number = 1; number <= used; ++number)
+            box.styleRange(0, 4, {number << 8, false, false});
+        const std::uint32_t own = (used - 200) << 16;
+        const StyleMap map{{{own + 1}, {own + 2}, {own + 3}}, std::string("\0\1\2", 3) + StyleMap::keep};
+        box.styleAll(map);
+        for (Position i = 0; i < 3; ++i)
+            EXPECT_EQ(box.styleAt(i), map.palette[i]) << used << ' ' << i;
+        EXPECT_EQ(box.styleAt(3), (TextStyle{used << 8, false, false})) << used;
+    }
+}
+
+} // namespace
+} // namespace kitwright

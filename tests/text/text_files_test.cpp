@@ -1,0 +1,63 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "text/text_files.h"
+
+#include "support/memory_file_system.h"
+#include "support/scenario.h"
+#include "text/windows_1250.h"
+
+#include <gtest/gtest.h>
+
+namespace kitwright {
+
+TEST(DataLines, EndAtCrOrCrLfButNotAtBareLf)
+{
+    const std::pair<std::string, std::vector<std::string_view>> cases[] = {
+        {"", {}},       {"a\r\nb\r\n", {"a", "b"}},   {"a\rb", {"a", "b"}},       {"a\r", {"a"}},
+        {"\n", {"\n"}}, {"a\nb\r\nc", {"a\nb", "c"}}, {"\r\r\n\r", {"", "", ""}}, {"a", {"a"}},
+        {"\r\n", {""}}, {"a\r\n\nb", {"a", "\nb"}}};
+    for (const auto& [text, lines] : cases)
+        EXPECT_EQ(dataLines(text), lines) << ::testing::PrintToString(text);
+}
+
+TEST(DataLines, AreTakenUpToAMostWhichIsTold)
+{
+    EXPECT_EQ(dataLines("a\r\nb\rc", 2), (std::vector<std::string_view>{"a", "b"}));
+    for (const char* whole : {"", "a\r\nb", "a\rb\r", "a\r\nb\r\n"})
+        EXPECT_FALSE(linesLeftOut("/f", whole, 2)) << ::testing::PrintToString(whole);
+    for (const char* cut : {"a\r\nb\r\nc", "\r\r\r"})
+        EXPECT_TRUE(linesLeftOut("/f", cut, 2)) << ::testing::PrintToString(cut);
+    const std::string longest(longestDataLine, 'x');
+    EXPECT_EQ(dataLines(longest + "\rb\r" + longest.substr(1) + "\u010D"),
+              (std::vector<std::string_view>{longest, "b", std::string_view(longest).substr(1)}));
+}
+
+TEST(Lines, AreMeasuredWithoutTheirEnds)
+{
+    EXPECT_FALSE(hasLineLongerThan(3, "123\n123\r\n\n\r123"));
+    EXPECT_TRUE(hasLineLongerThan(3, "1\n2\n1234\n3"));
+    EXPECT_TRUE(hasLineLongerThan(3, "1\n1234"));
+}
+
+TEST(WithCrLf, MendsEveryLineEndAndNothingElse)
+{
+    for (const auto& [text, expected] : testing::scenarioTable<2>("tables/line_ends.txt"))
+        EXPECT_EQ(withCrLf(text), expected) << ::testing::PrintToString(text);
+}
+
+TEST(TextFiles, HoldOneByteACharacterUnlessTheyAreMarked)
+{
+    testing::MemoryFileSystem disk;
+    TextFiles texts(disk, windows1250());
+    EXPECT_FALSE(texts.write("/f", "Příliš\r\n\u00A0😀"));
+    EXPECT_EQ(disk.files["/f"], "P\xF8\xEDli\x9A\r\n\xA0");
+    EXPECT_EQ(*texts.read("/f"), "Příliš\r\n\u00A0");
+    EXPECT_EQ(*texts.readMarked("/f"), "Příliš\r\n\u00A0");
+    disk.files["/f"] = "\xEF\xBB\xBFžluť 😀";
+    EXPECT_EQ(*texts.readMarked("/f"), "žluť ");
+    EXPECT_EQ(windows1250().encode(*texts.read("/f")), disk.files["/f"]);
+    EXPECT_FALSE(texts.readMarked("/missing"));
+}
+
+} // namespace kitwright

@@ -1,0 +1,103 @@
+// SPDX-FileCopyrightText: The Kitwright developers
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#include "text/text_files.h"
+
+#include "text/utf8.h"
+
+namespace kitwright {
+
+Outcome<std::string> TextFiles::read(const std::string& path) const
+{
+    Outcome<std::string> bytes = m_files.readBytes(path);
+    if (bytes)
+        *bytes = m_codePage.decode(*bytes);
+    return bytes;
+}
+
+Outcome<std::string> TextFiles::readMarked(const std::string& path) const
+{
+    constexpr std::string_view mark = "\xEF\xBB\xBF";
+    Outcome<std::string> bytes = m_files.readBytes(path);
+    if (!bytes)
+        return bytes;
+    if (bytes->starts_with(mark))
+        *bytes = m_codePage.keepable(std::string_view(*bytes).substr(mark.size()));
+    else
+        *bytes = m_codePage.decode(*bytes);
+    return bytes;
+}
+
+Failure TextFiles::write(const std::string& path, std::string_view text)
+{
+    return m_files.writeBytes(path, m_codePage.encode(text));
+}
+
+std::vector<std::string_view> dataLines(std::string_view text, std::size_t most)
+{
+    std::vector<std::string_view> lines;
+    while (!text.empty() && lines.size() < most) {
+        const std::size_t end = text.find('\r');
+        lines.push_back(cutUtf8(text.substr(0, end), longestDataLine));
+        if (end == std::string_view::npos)
+            break;
+        text.remove_prefix(end + 1);
+        if (text.starts_with('\n'))
+            text.remove_prefix(1);
+    }
+    return lines;
+}
+
+Failure linesLeftOut(const std::string& path, std::string_view text, std::size_t most)
+{
+    std::size_t end = 0;
+    for (std::size_t line = 0; line < most; ++line) {
+        const std::size_t found = text.find('\r', end);
+        if (found == std::string_view::npos)
+            return {};
+        end = found + (text.substr(found, 2) == "\r\n" ? 2 : 1);
+    }
+    return end < text.size() ? Failure(path + ": only the first " + std::to_string(most) + " lines are taken")
+                             : Failure();
+}
+
+bool hasLineLongerThan(std::size_t most, std::string_view text)
+{
+    while (text.size() > most) {
+        const std::size_t end = text.substr(0, most + 1).find_last_of("\r\n");
+        if (end == std::string_view::npos)
+            return true;
+        text.remove_prefix(end + 1);
+    }
+    return false;
+}
+
+bool hasOnlyCrLf(std::string_view text)
+{
+    for (std::size_t i = text.find_first_of("\r\n"); i != std::string_view::npos;
+         i = text.find_first_of("\r\n", i + 2)) {
+        if (text.substr(i, 2) != "\r\n")
+            return false;
+    }
+    return true;
+}
+
+std::string withCrLf(std::string text)
+{
+    if (hasOnlyCrLf(text))
+        return text;
+    std::string result;
+    result.reserve(text.size() + text.size() / 16);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            result += "\r\n";
+            if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
+                ++i;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+} // namespace kitwright
