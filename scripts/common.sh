@@ -20,14 +20,13 @@ quietly() {
     return "$status"
 }
 
-# configure PRESET: configures the preset, unless that has been done.
+# configure PRESET [OPTION...]: configures the preset. In CI warnings are errors, in a build folder that is there, too.
 configure() {
     local build="$top/build/$1"
-    [[ -f $build/build.ninja ]] && return
     printf 'Configuring build/%s\n' "$1"
     # A configuration that failed remembers what it did not find: start afresh.
-    rm -f "$build/CMakeCache.txt"
-    (cd "$top" && quietly cmake --preset "$1") || fail "configuring build/$1 failed"
+    [[ -f $build/build.ninja ]] || rm -f "$build/CMakeCache.txt"
+    (cd "$top" && quietly cmake --preset "$@" ${CI:+-DKITWRIGHT_WERROR=ON}) || fail "configuring build/$1 failed"
 }
 
 # build PRESET [TARGET...]: builds the targets, or everything, with the builder's own progress shown.

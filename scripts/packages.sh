@@ -5,7 +5,9 @@
 # shellcheck disable=SC2034  # read by the scripts that source this file
 {
     build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev'
-        libqscintilla2-qt6-dev libgl1-mesa-dev libgtest-dev libgmock-dev libbenchmark-dev)
+        libqscintilla2-qt6-dev libgl1-mesa-dev)
+    test_packages=(libgtest-dev libgmock-dev libbenchmark-dev)
+    sanitizer_packages=(clang 'libclang-rt-dev|libclang-rt-14-dev')
     run_packages=(fonts-dejavu-core libqt6svg6 qt6-qpa-plugins)
     format_packages=(git clang-format)
     lint_packages=(git clang-tidy)
