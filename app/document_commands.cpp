@@ -131,11 +131,11 @@ void DocumentCommands::VlozText(const std::string& Jmeno)
     m_surroundings.refresh();
 }
 
-/// Sets the editor's text to the content of the file. A file that cannot be read, or that has an endless line, leaves
-/// the editor as it was.
+/// Sets the editor's text to the content of the file. A file that cannot be read, is in UTF-16, or has an endless line
+/// leaves the editor as it was.
 bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole)
 {
-    Outcome<std::string> text = m_context.texts.read(Soubor);
+    Outcome<std::string> text = m_context.texts.readDocument(Soubor);
     if (!text) {
         m_surroundings.stepFailed("opening", text.reason());
         return false;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/application.h"
+#include "app/guarded_application.h"
 #include "platform/fatal_signals.h"
 #include "platform/qt_dialogs.h"
 #include "platform/qt_file_system.h"
@@ -9,7 +10,6 @@
 #include "platform/qt_text.h"
 #include "text/windows_1250.h"
 
-#include <QApplication>
 #include <QLoggingCategory>
 
 int main(int argc, char* argv[])
@@ -17,8 +17,8 @@ int main(int argc, char* argv[])
     kitwright::ignoreFatalSignals();
     // A picture that cannot be read is told of in one line of the editor's own.
     QLoggingCategory::setFilterRules(QStringLiteral("qt.gui.imageio*=false"));
-    QApplication desktop(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("kitwright"));
+    kitwright::GuardedApplication desktop(argc, argv);
+    kitwright::GuardedApplication::setApplicationName(QStringLiteral("kitwright"));
 
     kitwright::QtFileSystem files;
     kitwright::TextFiles texts(files, kitwright::windows1250());
@@ -26,8 +26,8 @@ int main(int argc, char* argv[])
     kitwright::QtProgramLauncher launcher;
 
     kitwright::Application application({files, texts, dialogs, launcher},
-                                       kitwright::fromQt(QApplication::applicationDirPath()));
+                                       kitwright::fromQt(kitwright::GuardedApplication::applicationDirPath()));
     application.start();
     application.mainWindow().showFitted();
-    return QApplication::exec();
+    return kitwright::GuardedApplication::exec();
 }

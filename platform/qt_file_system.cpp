@@ -3,6 +3,7 @@
 
 #include "platform/qt_file_system.h"
 
+#include "platform/disk_sync.h"
 #include "platform/qt_text.h"
 #include "platform/write_in_place.h"
 
@@ -109,14 +110,7 @@ QString lastError(const QIODevice& device)
 QString reachDisk(QSaveFile& file)
 {
     errno = 0;
-    if (!file.flush())
-        return lastError(file);
-#ifdef Q_OS_UNIX
-    // Some file systems cannot sync, which they say with EINVAL.
-    if (::fsync(file.handle()) != 0 && errno != EINVAL)
-        return qt_error_string(errno);
-#endif
-    return {};
+    return file.flush() ? syncToDisk(file) : lastError(file);
 }
 
 /// Writes a file whole or not at all. `content` writes it to the device it is given and returns an error text, empty

@@ -3,6 +3,8 @@
 
 #include "platform/write_in_place.h"
 
+#include "platform/disk_sync.h"
+
 #include <QFile>
 
 #ifdef Q_OS_UNIX
@@ -27,7 +29,7 @@ QString claimRoom([[maybe_unused]] QFile& file, [[maybe_unused]] qint64 size)
     return {};
 }
 
-/// Makes the bytes all that the file holds; an error text, empty on success.
+/// Makes the bytes all that the file holds, on the disk; an error text, empty on success.
 QString fill(QFile& file, std::string_view bytes)
 {
     const auto size = static_cast<qint64>(bytes.size());
@@ -39,7 +41,7 @@ QString fill(QFile& file, std::string_view bytes)
             return file.errorString();
         written += step;
     }
-    return file.size() == size || file.resize(size) ? QString() : file.errorString();
+    return file.size() == size || file.resize(size) ? syncToDisk(file) : file.errorString();
 }
 
 } // namespace

@@ -5,6 +5,9 @@
 
 #include "text/utf8.h"
 
+#include <algorithm>
+#include <array>
+
 namespace kitwright {
 
 Outcome<std::string> TextFiles::read(const std::string& path) const
@@ -12,6 +15,17 @@ Outcome<std::string> TextFiles::read(const std::string& path) const
     Outcome<std::string> bytes = m_files.readBytes(path);
     if (bytes)
         *bytes = m_codePage.decode(*bytes);
+    return bytes;
+}
+
+Outcome<std::string> TextFiles::readDocument(const std::string& path) const
+{
+    Outcome<std::string> bytes = m_files.readBytes(path);
+    if (!bytes)
+        return bytes;
+    if (isUtf16(*bytes))
+        return Outcome<std::string>::failed(path + ": in UTF-16, which this editor cannot keep");
+    *bytes = m_codePage.decode(*bytes);
     return bytes;
 }
 
@@ -70,6 +84,19 @@ bool hasLineLongerThan(std::size_t most, std::string_view text)
         text.remove_prefix(end + 1);
     }
     return false;
+}
+
+bool isUtf16(std::string_view bytes)
+{
+    if (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF"))
+        return true;
+    constexpr std::size_t looked = 256;
+    const std::string_view start = bytes.substr(0, looked);
+    std::array<std::size_t, 2> nuls{}; // At even and at odd places.
+    for (std::size_t i = 0; i < start.size(); ++i)
+        nuls[i % 2] += start[i] == '\0' ? 1 : 0;
+    const std::size_t pairs = start.size() / 2;
+    return pairs > 1 && std::min(nuls[0], nuls[1]) == 0 && 4 * std::max(nuls[0], nuls[1]) >= 3 * pairs;
 }
 
 bool hasOnlyCrLf(std::string_view text)

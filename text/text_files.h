@@ -21,6 +21,9 @@ public:
     /// The whole text of a file, line ends as they stand in it.
     Outcome<std::string> read(const std::string& path) const;
 
+    /// As `read`, but a file in UTF-16 is a failure: its bytes would not survive the change of line ends.
+    Outcome<std::string> readDocument(const std::string& path) const;
+
     /// As `read`, but a file that starts with a UTF-8 byte order mark is taken as UTF-8, without the mark.
     Outcome<std::string> readMarked(const std::string& path) const;
 
@@ -50,6 +53,10 @@ Failure linesLeftOut(const std::string& path, std::string_view text, std::size_t
 
 /// True when a line of the text, whatever it ends with, is longer than `most` bytes.
 bool hasLineLongerThan(std::size_t most, std::string_view text);
+
+/// True for the bytes of a UTF-16 file: a byte order mark, or a start in which most characters have one NUL byte, all
+/// on the same side.
+bool isUtf16(std::string_view bytes);
 
 /// True when every CR is followed by LF and every LF preceded by CR.
 bool hasOnlyCrLf(std::string_view text);

@@ -60,4 +60,19 @@ TEST(TextFiles, HoldOneByteACharacterUnlessTheyAreMarked)
     EXPECT_FALSE(texts.readMarked("/missing"));
 }
 
+TEST(TextFiles, RefuseUtf16Documents)
+{
+    using namespace std::string_literals;
+    testing::MemoryFileSystem disk;
+    const TextFiles texts(disk, windows1250());
+    for (const std::string& refused : {"\xFF\xFE"s, "\xFE\xFF\0c"s, "c\0l\0a\0\x10\x01s\0"s, "\0c\0l"s}) {
+        disk.files["/f"] = refused;
+        EXPECT_FALSE(texts.readDocument("/f")) << ::testing::PrintToString(refused);
+    }
+    for (const std::string& taken : {""s, "\0"s, "\0\0\0\0"s, "class A {};\0\0"s}) {
+        disk.files["/f"] = taken;
+        EXPECT_EQ(*texts.readDocument("/f"), taken) << ::testing::PrintToString(taken);
+    }
+}
+
 } // namespace kitwright
