@@ -6,7 +6,6 @@
 #include "text/letter_case.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 namespace kitwright {
 
@@ -19,33 +18,17 @@ bool isDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-/// Answers "which key seen last contains the marker followed by this number" in constant time, so that loading a
-/// tree stays linear. It knows, for every number that a marker in some key starts with, the last such node.
-class LastByNumber {
-public:
-    void note(const std::string& key, int node)
-    {
-        for (std::size_t at = key.find(marker); at != std::string::npos; at = key.find(marker, at + 1)) {
-            const std::size_t start = at + marker.size();
-            // "-1" is what is asked for when a file returns to the top level.
-            if (key.compare(start, 2, "-1") == 0)
-                m_last["-1"] = node;
-            for (std::size_t length = 1; length <= maxDigits && isDigit(key[start + length - 1]); ++length)
-                m_last[key.substr(start, length)] = node;
-        }
-    }
+constexpr std::size_t mostDigits = 10; // No level has more.
 
-    std::optional<int> find(int number) const
-    {
-        const auto found = m_last.find(std::to_string(number));
-        return found == m_last.end() ? std::nullopt : std::optional(found->second);
-    }
-
-private:
-    static constexpr std::size_t maxDigits = 10; // No level has more.
-
-    std::unordered_map<std::string, int> m_last;
-};
+/// True for what `keysWith` has an index for.
+bool isMarkerWithLevel(std::string_view text)
+{
+    if (!text.starts_with(marker))
+        return false;
+    text.remove_prefix(marker.size());
+    return text == "-1"
+        || (!text.empty() && text.size() <= mostDigits && std::all_of(text.begin(), text.end(), isDigit));
+}
 
 /// Indentation divided by 3, rounded to the nearest whole number.
 int levelOf(std::string_view line)
@@ -78,6 +61,41 @@ void KeywordTree::add(std::string_view text, int level, int parent)
         node.depth = above.depth + 1;
     }
     m_nodes.push_back(std::move(node));
+    indexKey(static_cast<int>(m_nodes.size()) - 1);
+}
+
+/// Notes every marker in a key with each number that it may be read with: a text can go on with digits, or hold the
+/// marker itself.
+void KeywordTree::indexKey(int index)
+{
+    const std::string& key = m_nodes[static_cast<std::size_t>(index)].key;
+    const auto note = [&](std::size_t at, std::size_t length) {
+        Matches& matches = m_byLevel[key.substr(at, length)];
+        if (matches.last != index)
+            matches = {matches.count + 1, index};
+    };
+    for (std::size_t at = key.find(marker); at != std::string::npos; at = key.find(marker, at + 1)) {
+        const std::size_t number = at + marker.size();
+        // "-1" is what is asked for when a file returns to the top level.
+        if (key.compare(number, 2, "-1") == 0)
+            note(at, marker.size() + 2);
+        for (std::size_t digits = 1; digits <= mostDigits && isDigit(key[number + digits - 1]); ++digits)
+            note(at, marker.size() + digits);
+    }
+}
+
+KeywordTree::Matches KeywordTree::keysWith(std::string_view text) const
+{
+    if (isMarkerWithLevel(text)) {
+        const auto found = m_byLevel.find(std::string(text));
+        return found == m_byLevel.end() ? Matches() : found->second;
+    }
+    Matches matches;
+    for (std::size_t index = 0; index < m_nodes.size(); ++index) {
+        if (m_nodes[index].key.find(text) != std::string::npos)
+            matches = {matches.count + 1, static_cast<int>(index)};
+    }
+    return matches;
 }
 
 int SpocitejMezery(std::string_view Retezec)
@@ -88,38 +106,29 @@ int SpocitejMezery(std::string_view Retezec)
 
 int SpocitejIndexy(std::string_view Key, std::string& Key2, const KeywordTree& Strom)
 {
-    int count = 0;
-    const TreeNode* last = nullptr;
-    for (const TreeNode& node : Strom.nodes()) {
-        if (node.key.find(Key) != std::string::npos) {
-            ++count;
-            last = &node;
-        }
-    }
-    if (last)
-        Key2 = last->key;
-    return count;
+    const KeywordTree::Matches matches = Strom.keysWith(Key);
+    if (matches.count > 0)
+        Key2 = Strom.nodes()[static_cast<std::size_t>(matches.last)].key;
+    return matches.count;
 }
 
 void addTreeLines(std::string_view text, KeywordTree& tree)
 {
-    LastByNumber lastByNumber;
-    for (std::size_t node = 0; node < tree.nodes().size(); ++node)
-        lastByNumber.note(tree.nodes()[node].key, static_cast<int>(node));
-
     int previousLevel = 0;
-    std::optional<int> parent;
+    int parent = TreeNode::noParent;
+    std::string parentKey;
     for (const std::string_view line : dataLines(text)) {
         const int level = levelOf(line);
         if (level != previousLevel) {
             previousLevel = level;
-            if (const auto found = lastByNumber.find(level - 1))
-                parent = found;
+            // A key begins with its node's position, from 1.
+            if (SpocitejIndexy(std::string(marker) + std::to_string(level - 1), parentKey, tree) > 0)
+                parent = std::stoi(parentKey) - 1;
         }
-        if (level > 0 && (!parent || tree.nodes()[static_cast<std::size_t>(*parent)].depth >= deepestNode))
-            continue;
-        tree.add(trimmedSpaces(line), level, level > 0 ? *parent : TreeNode::noParent);
-        lastByNumber.note(tree.nodes().back().key, static_cast<int>(tree.nodes().size()) - 1);
+        if (level == 0)
+            tree.add(trimmedSpaces(line), level, TreeNode::noParent);
+        else if (parent != TreeNode::noParent && tree.nodes()[static_cast<std::size_t>(parent)].depth < deepestNode)
+            tree.add(trimmedSpaces(line), level, parent);
     }
 }
 

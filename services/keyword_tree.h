@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace kitwright {
@@ -41,8 +42,20 @@ public:
     /// Adds a node; `parent` is an index from 0, or TreeNode::noParent for a top-level one.
     void add(std::string_view text, int level, int parent);
 
+    /// The nodes whose key contains a text.
+    struct Matches {
+        int count = 0;
+        int last = TreeNode::noParent; ///< Index of the last of them.
+    };
+
+    /// The time does not grow with the tree when `text` is "VNORENI" and a level, or "VNORENI-1".
+    Matches keysWith(std::string_view text) const;
+
 private:
+    void indexKey(int index);
+
     std::vector<TreeNode> m_nodes;
+    std::unordered_map<std::string, Matches> m_byLevel; ///< By each text that begins with the marker in some key.
 };
 
 /// The number of spaces at the start of a text.

@@ -66,6 +66,8 @@ TEST(KeywordTree, KeysTellPositionLevelAndText)
     EXPECT_EQ(key, "before");
     EXPECT_EQ(SpocitejIndexy("gun", key, tree), 2);
     EXPECT_EQ(key, "3VNORENI22gunBeg");
+    EXPECT_EQ(SpocitejIndexy("VNORENI1", key, tree), 2);
+    EXPECT_EQ(key, "5VNORENI12deep");
 }
 
 } // namespace
