@@ -46,11 +46,4 @@ bool isPlainFileName(std::string_view name)
     });
 }
 
-std::string withoutClosingSeparator(std::string_view folder)
-{
-    if (folder.size() > 1 && separators.find(folder.back()) != std::string_view::npos)
-        folder.remove_suffix(1);
-    return std::string(folder);
-}
-
 } // namespace kitwright

@@ -19,7 +19,4 @@ std::string FolderOf(std::string_view path);
 /// characters. Whatever fails this is never written to.
 bool isPlainFileName(std::string_view name);
 
-/// The folder's path without a separator at its end (a root keeps its own).
-std::string withoutClosingSeparator(std::string_view folder);
-
 } // namespace kitwright

@@ -14,8 +14,8 @@ namespace kitwright {
 const ClassWizardSettings weaponWizard = {
     "Form1",
     "Weapon addon",
-    R"(\Bfdata\kitwright\kitwrightweapon.dat)",
-    R"(\Bfdata\kitwright\addweapons.dat)",
+    "/Bfdata/kitwright/kitwrightweapon.dat",
+    "/Bfdata/kitwright/addweapons.dat",
     56,
     "Soubory typu P3D|*.p3d*",
     "weapons[]",
@@ -25,8 +25,8 @@ const ClassWizardSettings weaponWizard = {
 const ClassWizardSettings ammoWizard = {
     "Form3",
     "Make ammo",
-    R"(\Bfdata\kitwright\kitwrightammo.dat)",
-    R"(\Bfdata\kitwright\addammo.dat)",
+    "/Bfdata/kitwright/kitwrightammo.dat",
+    "/Bfdata/kitwright/addammo.dat",
     57,
     "Všechny soubory|*.*",
     "",

@@ -46,7 +46,7 @@ void frmfaceaddon::showEvent(QShowEvent* event)
 
 void frmfaceaddon::loadCatalogue()
 {
-    m_catalogue = loadIfThere(m_context, R"(\Bfdata\kitwright\Kitwrightface.dat)");
+    m_catalogue = loadIfThere(m_context, "/Bfdata/kitwright/Kitwrightface.dat");
     for (const ListEntry& property : m_catalogue)
         m_ui->seznam2->addEntry(shownText(property.text), shownText(property.help));
 }

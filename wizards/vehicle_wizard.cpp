@@ -35,7 +35,7 @@ frmvehikl::~frmvehikl() = default;
 
 void frmvehikl::loadProperties(const KeywordTree& tree)
 {
-    const PropertyHelp help(loadIfThere(m_context, R"(\Bfdata\kitwright\vehiclehelp.dat)"));
+    const PropertyHelp help(loadIfThere(m_context, "/Bfdata/kitwright/vehiclehelp.dat"));
     const QSignalBlocker quiet(m_ui->vlastnosti);
     VybranyUzel = nullptr;
     m_ui->vlastnosti->clear();
@@ -69,7 +69,7 @@ void frmvehikl::NadeklarujPole()
 
 void frmvehikl::loadBaseClasses()
 {
-    for (ListEntry& entry : loadIfThere(m_context, R"(\Bfdata\kitwright\addvehicles.dat)")) {
+    for (ListEntry& entry : loadIfThere(m_context, "/Bfdata/kitwright/addvehicles.dat")) {
         m_ui->List1->addItem(shownText(entry.text));
         m_baseClasses.push_back(std::move(entry.text));
     }
