@@ -57,7 +57,6 @@ void Application::start()
     for (const std::string_view word : {"#define", "class", "CfgPatches"})
         m_keywords.add(word, KeywordClass::CLanguageWord);
     windowAs<frmrejstrik2>("frmrejstrik2").showKeywords();
-    m_main.rememberSize();
     loadVehicles();
     m_main.startColouring();
 }

@@ -144,12 +144,6 @@ void fmrconfigedit::showFitted()
     show();
 }
 
-void fmrconfigedit::rememberSize()
-{
-    RememberedWidth = m_ui->centralwidget->width();
-    RememberedHeight = m_ui->centralwidget->height();
-}
-
 void fmrconfigedit::startColouring()
 {
     setColouringEnabled(true);
@@ -226,14 +220,13 @@ void fmrconfigedit::layOut()
         }
         m_layout.emplace(designedWidth, designedHeight, std::move(designed));
     }
-    if (isMinimized() || area.width() <= 0 || area.height() <= 0)
+    if (isMinimized())
         return;
     const std::vector<Geometry> places = m_layout->at(area.width(), area.height());
     for (qsizetype i = 0; i < controls.size(); ++i) {
         const Geometry& place = places[static_cast<std::size_t>(i)];
         controls[i]->setGeometry(QRectF(place.left, place.top, place.width, place.height).toRect());
     }
-    rememberSize();
 }
 
 void fmrconfigedit::setCaption(const std::string& caption)

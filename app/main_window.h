@@ -37,9 +37,7 @@ public:
     /// What the other windows are built from; its host is this window.
     Context& context() { return m_context; }
 
-    /// Takes the window's present size as the one that later resizes are measured by, and switches live colouring
-    /// on: the last steps of start-up.
-    void rememberSize();
+    /// Switches live colouring on: the last step of start-up.
     void startColouring();
 
     /// Shows the window for the first time, in a size that suits the screen.
@@ -86,8 +84,6 @@ private:
     int m_changes = 0;           ///< Open document changes.
     bool m_colouringDue = false; ///< A full pass waits for their end.
 
-    int RememberedWidth = 0;  ///< The window's inner width at the last start-up or resize.
-    int RememberedHeight = 0; ///< The same for its height.
     std::optional<ProportionalLayout> m_layout;
 };
 

@@ -10,8 +10,8 @@ namespace kitwright {
 ProportionalLayout::ProportionalLayout(double width, double height, std::vector<Geometry> controls)
     : m_firstWidth(width),
       m_firstHeight(height),
-      m_width(width),
-      m_height(height),
+      RememberedWidth(width),
+      RememberedHeight(height),
       m_controls(std::move(controls))
 {
 }
@@ -19,11 +19,11 @@ ProportionalLayout::ProportionalLayout(double width, double height, std::vector<
 std::vector<Geometry> ProportionalLayout::at(double width, double height)
 {
     if (width > 0 && height > 0) {
-        m_width = width;
-        m_height = height;
+        RememberedWidth = width;
+        RememberedHeight = height;
     }
-    const double horizontal = m_width / m_firstWidth;
-    const double vertical = m_height / m_firstHeight;
+    const double horizontal = RememberedWidth / m_firstWidth;
+    const double vertical = RememberedHeight / m_firstHeight;
     std::vector<Geometry> scaled = m_controls;
     for (Geometry& control : scaled) {
         control.left *= horizontal;

@@ -22,14 +22,14 @@ public:
     /// `controls` are the places at the given size of the window.
     ProportionalLayout(double width, double height, std::vector<Geometry> controls);
 
-    /// The places at another size; those at the last sound size when this one is not positive.
+    /// The places at another size, or at the remembered one when this is not positive.
     std::vector<Geometry> at(double width, double height);
 
 private:
     double m_firstWidth;
     double m_firstHeight;
-    double m_width;
-    double m_height;
+    double RememberedWidth;  ///< At the last resize to a size that was positive.
+    double RememberedHeight; ///< The same for the height.
     std::vector<Geometry> m_controls;
 };
 
