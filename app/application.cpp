@@ -39,20 +39,40 @@ constexpr const char* vehicleFile = "/Bfdata/kitwright/kitwrightvehicles.dat";
 
 } // namespace
 
-Application::Application(const Desktop& desktop, const std::string& programFolder)
-    : m_desktop((initIcons(), desktop)),
-      m_main(m_desktop, m_state, m_keywords, *this)
+Application::Application(FileSystem& files, TextFiles& texts, Dialogs& dialogs, ProgramLauncher& launcher,
+                         const std::string& programFolder)
+    : m_context{.files = files,
+                .texts = texts,
+                .dialogs = dialogs,
+                .launcher = launcher,
+                .report = [](const char* step, const Failure& failure) { report(lcApp(), step, failure); }},
+      m_strings(m_context),
+      m_main((initIcons(), m_context), m_strings, m_classTree, m_commandTree, m_keywords)
 {
-    m_state.programFolder = programFolder;
+    m_context.state.programFolder = programFolder;
+    m_context.host = &m_main;
+    connectMainWindow();
 }
 
 Application::~Application() = default;
+
+void Application::connectMainWindow()
+{
+    const auto when = [this](auto signal, auto handler) { QObject::connect(&m_main, signal, &m_main, handler); };
+    when(&fmrconfigedit::modalWanted, [this](std::string_view name) { showModal(name); });
+    when(&fmrconfigedit::besideWanted, [this](std::string_view name) { showBeside(name); });
+    when(&fmrconfigedit::fullPassBegins, [this](std::size_t length) { windowAs<Form2>("Form2").announce(length); });
+    when(&fmrconfigedit::fullPassEnds, [this] { windowAs<Form2>("Form2").hide(); });
+    when(&fmrconfigedit::endWanted, [this] { UnloadAllWindows(); });
+    when(&fmrconfigedit::closing, [this] { saveSettings(); });
+}
 
 void Application::start()
 {
     loadClasses();
     loadCommands();
-    m_main.showTrees(m_classTree, m_commandTree);
+    m_main.showTrees();
+    m_context.report("reading the languages of stringtables", m_strings.loadLanguages());
     loadSettings();
     for (const std::string_view word : {"#define", "class", "CfgPatches"})
         m_keywords.add(word, KeywordClass::CLanguageWord);
@@ -63,70 +83,70 @@ void Application::start()
 
 bool Application::existsOrReport(const std::string& path)
 {
-    const bool exists = m_desktop.files.fileExists(path);
+    const bool exists = m_context.files.fileExists(path);
     if (!exists)
-        m_desktop.dialogs.showMessage("Missing: " + path + "\r\n");
+        m_context.dialogs.showMessage("Missing: " + path + "\r\n");
     return exists;
 }
 
 void Application::loadClasses()
 {
-    const std::string path = m_state.programFolder + classFile;
+    const std::string path = m_context.inProgramFolder(classFile);
     if (!existsOrReport(path))
         return;
-    report(lcApp(), "loading the classes", NactiTridy(m_desktop.texts, path, m_classTree));
-    report(lcApp(), "loading the class names",
-           NactiPrikazyConfig(m_desktop.texts, path, KeywordClass::ClassName, m_keywords));
+    m_context.report("loading the classes", NactiTridy(m_context.texts, path, m_classTree));
+    m_context.report("loading the class names",
+                     NactiPrikazyConfig(m_context.texts, path, KeywordClass::ClassName, m_keywords));
 }
 
 void Application::loadCommands()
 {
-    const std::string path = m_state.programFolder + commandFile;
+    const std::string path = m_context.inProgramFolder(commandFile);
     // Tree and keywords ask for the file on their own, so a missing one is told twice.
     if (existsOrReport(path))
-        report(lcApp(), "loading the commands", NactiTridy(m_desktop.texts, path, m_commandTree));
+        m_context.report("loading the commands", NactiTridy(m_context.texts, path, m_commandTree));
     if (existsOrReport(path)) {
-        report(lcApp(), "loading the command keywords",
-               NactiPrikazyConfig(m_desktop.texts, path, KeywordClass::ConfigCommand, m_keywords));
+        m_context.report("loading the command keywords",
+                         NactiPrikazyConfig(m_context.texts, path, KeywordClass::ConfigCommand, m_keywords));
     }
 }
 
 void Application::loadSettings()
 {
-    m_state.Settings = EditorSettings();
-    if (m_desktop.files.fileExists(settingsPath())) {
-        const Failure failure =
-            LoadSettings(m_desktop.files, m_desktop.texts.codePage(), settingsPath(), m_state.Settings);
-        report(lcApp(), "reading the settings", failure);
+    EditorSettings& settings = m_context.state.Settings;
+    settings = EditorSettings();
+    if (m_context.files.fileExists(settingsPath())) {
+        const Failure failure = LoadSettings(m_context.files, m_context.texts.codePage(), settingsPath(), settings);
+        m_context.report("reading the settings", failure);
         if (failure)
-            m_insteadOfUnread = m_state.Settings;
+            m_insteadOfUnread = settings;
         findLanguage();
         // Without a chosen language the designer's captions stand.
-        if (!m_state.Settings.LanguageFile.empty())
-            applyLanguage(m_state.Settings.LanguageFile);
+        if (!settings.LanguageFile.empty())
+            applyLanguage(settings.LanguageFile);
         return;
     }
     saveSettings();
-    m_state.Settings.PboFolder = m_state.programFolder;
-    showModal(u"Form7");
+    settings.PboFolder = m_context.state.programFolder;
+    showModal("Form7");
 }
 
 /// A program folder that was moved, or whose name the settings cannot hold, keeps the language that was chosen in it.
 void Application::findLanguage()
 {
-    std::string& chosen = m_state.Settings.LanguageFile;
-    const std::string own = m_main.context().inProgramFolder(languageFolder) + '/' + FileNameOf(chosen);
-    if (!m_desktop.files.fileExists(chosen) && m_desktop.files.fileExists(own))
+    std::string& chosen = m_context.state.Settings.LanguageFile;
+    const std::string own = m_context.inProgramFolder(languageFolder) + '/' + FileNameOf(chosen);
+    if (!m_context.files.fileExists(chosen) && m_context.files.fileExists(own))
         chosen = own;
 }
 
 void Application::loadVehicles()
 {
     auto& wizard = windowAs<frmvehikl>("frmvehikl");
-    const std::string path = m_state.programFolder + vehicleFile;
-    if (m_desktop.files.fileExists(path)) {
+    const std::string path = m_context.inProgramFolder(vehicleFile);
+    if (m_context.files.fileExists(path)) {
         KeywordTree tree;
-        report(lcApp(), "loading the vehicle properties", NactiTridy(m_desktop.texts, path, tree));
+        m_context.report("loading the vehicle properties", NactiTridy(m_context.texts, path, tree));
         wizard.loadProperties(tree);
         wizard.NadeklarujPole();
     }
@@ -136,7 +156,7 @@ void Application::loadVehicles()
 void Application::applyLanguage(const std::string& path)
 {
     ApplyLanguage(
-        m_main.context(), [this](std::string_view name) { return window(name); }, path);
+        m_context, [this](std::string_view name) { return window(name); }, path);
 }
 
 QWidget* Application::window(std::string_view name)
@@ -154,33 +174,32 @@ QWidget* Application::window(std::string_view name)
 /// Makes a window that does not exist yet, as a child of the main window.
 QDialog* Application::make(std::string_view name)
 {
-    Context& context = m_main.context();
     if (name == "frmrejstrik2")
-        return new frmrejstrik2(context, m_keywords, &m_main);
+        return new frmrejstrik2(m_context, m_keywords, &m_main);
     if (name == "Form1")
-        return new ClassWizard(weaponWizard, context, m_wizards.WeaponClasses, &m_main);
+        return new ClassWizard(weaponWizard, m_context, m_wizards.WeaponClasses, &m_main);
     if (name == "Form2")
         return new Form2(&m_main);
     if (name == "Form3")
-        return new ClassWizard(ammoWizard, context, m_wizards.AmmoClasses, &m_main);
+        return new ClassWizard(ammoWizard, m_context, m_wizards.AmmoClasses, &m_main);
     if (name == "Form4")
-        return new Form4(context, &m_main);
+        return new Form4(m_context, m_strings, &m_main);
     if (name == "Form5")
         return new Form5(
-            context, [this] { return chooseFolder(); }, &m_main);
+            m_context, [this] { return chooseFolder(); }, &m_main);
     if (name == "Form6")
-        return new Form6(context, &m_main);
+        return new Form6(m_context, &m_main);
     if (name == "Form7")
         return new Form7(
-            context, [this](const std::string& path) { applyLanguage(path); }, &m_main);
+            m_context, [this](const std::string& path) { applyLanguage(path); }, &m_main);
     if (name == "Form8")
         return new Form8(&m_main);
     if (name == "Form9")
-        return new Form9(context, &m_main);
+        return new Form9(m_context, &m_main);
     if (name == "frmfaceaddon")
-        return new frmfaceaddon(context, m_wizards.FaceEntries, &m_main);
+        return new frmfaceaddon(m_context, m_wizards.FaceEntries, &m_main);
     if (name == "frmvehikl")
-        return new frmvehikl(context, m_wizards.VehicleProperties, &m_main);
+        return new frmvehikl(m_context, m_wizards.VehicleProperties, &m_main);
     return nullptr;
 }
 
@@ -190,9 +209,9 @@ Window& Application::windowAs(std::string_view name)
     return *static_cast<Window*>(window(name));
 }
 
-void Application::showModal(QStringView name)
+void Application::showModal(std::string_view name)
 {
-    runModal(windowAs<QDialog>(fromQt(name.toString())));
+    runModal(windowAs<QDialog>(name));
 }
 
 /// Shows a window until it is closed. A click that was waiting while it closed arrives before its loop has ended, and
@@ -205,27 +224,12 @@ void Application::runModal(QDialog& dialog)
     m_modal.erase(&dialog);
 }
 
-void Application::showBeside(QStringView name)
+void Application::showBeside(std::string_view name)
 {
-    auto& dialog = windowAs<QDialog>(fromQt(name.toString()));
+    auto& dialog = windowAs<QDialog>(name);
     dialog.show();
     dialog.raise();
     dialog.activateWindow();
-}
-
-Form2& Application::waitWindow()
-{
-    return windowAs<Form2>("Form2");
-}
-
-void Application::readStringtable(const std::string& configPath)
-{
-    windowAs<Form4>("Form4").readTable(configPath);
-}
-
-void Application::WriteStringtable(const std::string& path)
-{
-    windowAs<Form4>("Form4").WriteStringtable(path);
 }
 
 std::string Application::chooseFolder()
@@ -238,10 +242,10 @@ std::string Application::chooseFolder()
 /// A file that could not be read keeps what it holds, unless the author has set something since.
 void Application::saveSettings()
 {
-    if (m_insteadOfUnread == m_state.Settings)
-        return;
-    report(lcApp(), "writing the settings",
-           SaveSettings(m_desktop.files, m_desktop.texts.codePage(), settingsPath(), m_state.Settings));
+    const EditorSettings& settings = m_context.state.Settings;
+    if (m_insteadOfUnread != settings)
+        m_context.report("writing the settings",
+                         SaveSettings(m_context.files, m_context.texts.codePage(), settingsPath(), settings));
 }
 
 void Application::UnloadAllWindows()

@@ -3,12 +3,11 @@
 
 #pragma once
 
-#include "app/desktop.h"
 #include "app/keyword_list.h"
 #include "app/main_window.h"
-#include "app/window_supplier.h"
+#include "services/context.h"
 #include "services/keyword_tree.h"
-#include "services/shared_state.h"
+#include "stringtable/table_store.h"
 #include "widgets/plain_labels.h"
 #include "wizards/class_record.h"
 
@@ -22,42 +21,37 @@
 
 namespace kitwright {
 
-class Form4;
-class frmvehikl;
-class frmrejstrik2;
-
-/// The composition root: owns the shared state and every window, each of which is made on first touch and at most
-/// once.
-class Application final : public WindowSupplier {
+/// The composition root: owns all that lasts as long as the program, connects it, and makes every window but the main
+/// one on first touch and at most once.
+class Application final {
 public:
-    /// `programFolder` is the folder of the running program, without a separator at its end.
-    Application(const Desktop& desktop, const std::string& programFolder);
-    ~Application() override;
+    /// The desktop as the program reaches it, for which tests put stand-ins, must outlive the program. `programFolder`
+    /// is the folder of the running program, without a separator at its end.
+    Application(FileSystem& files, TextFiles& texts, Dialogs& dialogs, ProgramLauncher& launcher,
+                const std::string& programFolder);
+    ~Application();
 
     /// Start-up in the order in which its steps build on one another. Does not show the main window.
     void start();
 
     fmrconfigedit& mainWindow() { return m_main; }
-    SharedState& state() { return m_state; }
-    const KeywordList& keywords() const { return m_keywords; }
+    Context& context() { return m_context; }
 
     /// The window of that name, made if need be; nullptr when there is none of that name.
     QWidget* window(std::string_view name);
 
-    void showModal(QStringView name) override;
-    void showBeside(QStringView name) override;
-    Form2& waitWindow() override;
-    void readStringtable(const std::string& configPath) override;
-    void WriteStringtable(const std::string& path) override;
-    void saveSettings() override;
-    void UnloadAllWindows() override;
-
 private:
+    void connectMainWindow();
     QDialog* make(std::string_view name);
     template <class Window>
     Window& windowAs(std::string_view name);
 
-    std::string settingsPath() const { return m_state.programFolder + "/Kitwright.cfg"; }
+    void showModal(std::string_view name);
+    void showBeside(std::string_view name);
+    void runModal(QDialog& dialog);
+    void UnloadAllWindows();
+
+    std::string settingsPath() const { return m_context.inProgramFolder("/Kitwright.cfg"); }
     bool existsOrReport(const std::string& path);
     void loadClasses();
     void loadCommands();
@@ -65,12 +59,12 @@ private:
     void findLanguage();
     void loadVehicles();
     void applyLanguage(const std::string& path);
-    void runModal(QDialog& dialog);
+    void saveSettings();
     std::string chooseFolder();
 
+    Context m_context; ///< First of all, so that it outlives all that is built from it.
+    TableStore m_strings;
     PlainLabels m_plainLabels;
-    Desktop m_desktop;
-    SharedState m_state;
     std::optional<EditorSettings> m_insteadOfUnread; ///< The settings that stand for a file that could not be read.
     WizardState m_wizards;
     KeywordTree m_classTree;

@@ -8,6 +8,8 @@
 #include "services/paths.h"
 #include "text/letter_case.h"
 
+#include <utility>
+
 namespace kitwright {
 
 namespace {
@@ -21,10 +23,12 @@ constexpr std::size_t longestLine = 1'000'000;
 
 } // namespace
 
-DocumentCommands::DocumentCommands(Context& context, ProgramLauncher& launcher, DocumentSurroundings& surroundings)
+DocumentCommands::DocumentCommands(Context& context, TableStore& strings, LiveColouring& live,
+                                   SetCaption setCaption)
     : m_context(context),
-      m_launcher(launcher),
-      m_surroundings(surroundings)
+      m_strings(strings),
+      m_live(live),
+      m_setCaption(std::move(setCaption))
 {
     CommonDialog1.defaultExtension = "cpp";
 }
@@ -35,28 +39,27 @@ void DocumentCommands::newDocument()
     // A text that did not reach the disk stays in the editor.
     if (!UlozAddon())
         return;
-    m_context.host.configedit().setText("");
+    m_context.host->configedit().setText("");
     if (!m_context.state.Settings.InsertBaseText)
         return;
     askForPatchClassName();
     VlozText(m_context.state.PatchClassName);
-    m_surroundings.refresh();
 }
 
 void DocumentCommands::open()
 {
-    m_surroundings.setColouringEnabled(false);
+    m_live.ColouringEnabled = false;
     CommonDialog1.filter = configFilter;
     CommonDialog1.fileName = "Config.cpp";
     const auto path = m_context.dialogs.openFile(CommonDialog1);
-    if (path && !path->empty() && NactiConfig(*path, m_context.host.configedit())) {
+    if (path && !path->empty() && NactiConfig(*path, m_context.host->configedit())) {
         m_context.state.CurrentFile = *path;
-        m_surroundings.setCaption(m_context.text(0) + " - " + *path);
-        ReadPatchClassName(m_context.host.configedit().text(), m_context.state.PatchClassName);
-        m_surroundings.readStringtable(*path);
-        m_context.host.Uprav2();
+        m_setCaption(m_context.text(0) + " - " + *path);
+        ReadPatchClassName(m_context.host->configedit().text(), m_context.state.PatchClassName);
+        m_context.report("reading the stringtable", m_strings.open(*path));
+        m_context.host->Uprav2();
     }
-    m_surroundings.setColouringEnabled(true);
+    m_live.ColouringEnabled = true;
 }
 
 bool DocumentCommands::UlozAddon()
@@ -65,7 +68,8 @@ bool DocumentCommands::UlozAddon()
     if (CurrentFile.empty() && !askForFile())
         return false;
     const bool written = UlozConfig(CurrentFile);
-    m_surroundings.WriteStringtable(FolderOf(CurrentFile) + "Stringtable.csv");
+    m_context.report("writing the stringtable",
+                     m_strings.WriteStringtable(FolderOf(CurrentFile) + "Stringtable.csv"));
     return written;
 }
 
@@ -111,7 +115,7 @@ void DocumentCommands::makePbo()
     }
     if (m_context.state.PatchClassName.empty())
         askForPatchClassName();
-    m_surroundings.stepFailed("starting the packer", startPacker());
+    m_context.report("starting the packer", startPacker());
 }
 
 /// The name of the add-on names the packer's file. One out of a stranger's document may be made to lead elsewhere, or
@@ -121,14 +125,14 @@ Failure DocumentCommands::startPacker()
     const std::string& name = m_context.state.PatchClassName;
     if (!name.empty() && (!isPlainFileName(name) || name.find(',') != std::string::npos))
         return name + ": cannot name a file";
-    return m_launcher.start(m_context.inProgramFolder("/brakpak.exe"), packerArgument(m_context.state));
+    return m_context.launcher.start(m_context.inProgramFolder("/brakpak.exe"), packerArgument(m_context.state));
 }
 
 void DocumentCommands::VlozText(const std::string& Jmeno)
 {
     const std::string version = m_context.dialogs.askText(m_context.text(69));
-    m_context.host.configedit().setText(startingText(Jmeno, version));
-    m_surroundings.refresh();
+    m_context.host->configedit().setText(startingText(Jmeno, version));
+    m_context.host->Uprav2();
 }
 
 /// Sets the editor's text to the content of the file. A file that cannot be read, is in UTF-16, or has an endless line
@@ -137,12 +141,12 @@ bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& Texto
 {
     Outcome<std::string> text = m_context.texts.readDocument(Soubor);
     if (!text) {
-        m_surroundings.stepFailed("opening", text.reason());
+        m_context.report("opening", text.reason());
         return false;
     }
     const std::string document = withCrLf(std::move(*text));
     if (hasLineLongerThan(longestLine, document)) {
-        m_surroundings.stepFailed("opening", Soubor + ": a line is too long to be edited");
+        m_context.report("opening", Soubor + ": a line is too long to be edited");
         return false;
     }
     TextovePole.loadText(document);
@@ -151,8 +155,8 @@ bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& Texto
 
 bool DocumentCommands::UlozConfig(const std::string& Cesta)
 {
-    const Failure failure = m_context.texts.write(Cesta, m_context.host.configedit().text());
-    m_surroundings.stepFailed("saving", failure);
+    const Failure failure = m_context.texts.write(Cesta, m_context.host->configedit().text());
+    m_context.report("saving", failure);
     return !failure;
 }
 

@@ -3,42 +3,24 @@
 
 #pragma once
 
+#include "app/live_colouring.h"
 #include "platform/dialogs.h"
-#include "platform/program_launcher.h"
 #include "services/context.h"
-#include "text/text_files.h"
+#include "stringtable/table_store.h"
 
+#include <functional>
 #include <string>
 
 namespace kitwright {
 
-/// What the document commands need of the main window and of the stringtable.
-class DocumentSurroundings {
-public:
-    virtual ~DocumentSurroundings() = default;
-
-    virtual void setCaption(const std::string& caption) = 0;
-
-    /// Live colouring ignores changes while this is false.
-    virtual void setColouringEnabled(bool enabled) = 0;
-
-    /// The refresh command: a full pass with live colouring off.
-    virtual void refresh() = 0;
-
-    /// A document was opened; its stringtable is the one beside it, if there is one.
-    virtual void readStringtable(const std::string& configPath) = 0;
-
-    virtual void WriteStringtable(const std::string& path) = 0;
-
-    /// A step failed and was skipped.
-    virtual void stepFailed(const char* step, const Failure& failure) = 0;
-};
-
 /// The commands that act on the document as a whole.
 class DocumentCommands {
 public:
-    /// All of it must outlive the commands.
-    DocumentCommands(Context& context, ProgramLauncher& launcher, DocumentSurroundings& surroundings);
+    /// Captions the main window.
+    using SetCaption = std::function<void(const std::string& caption)>;
+
+    /// Context, table and colouring must outlive the commands.
+    DocumentCommands(Context& context, TableStore& strings, LiveColouring& live, SetCaption setCaption);
 
     void newDocument();
     void open();
@@ -63,8 +45,9 @@ private:
     Failure startPacker();
 
     Context& m_context;
-    ProgramLauncher& m_launcher;
-    DocumentSurroundings& m_surroundings;
+    TableStore& m_strings;
+    LiveColouring& m_live;
+    SetCaption m_setCaption;
     FileDialog CommonDialog1; ///< Keeps what one use sets, its title above all, until another use changes it.
 };
 

@@ -25,7 +25,7 @@ int main(int argc, char* argv[])
     kitwright::QtDialogs dialogs;
     kitwright::QtProgramLauncher launcher;
 
-    kitwright::Application application({files, texts, dialogs, launcher},
+    kitwright::Application application(files, texts, dialogs, launcher,
                                        kitwright::fromQt(kitwright::GuardedApplication::applicationDirPath()));
     application.start();
     application.mainWindow().showFitted();

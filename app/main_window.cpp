@@ -5,14 +5,11 @@
 
 #include "app/browser_clicks.h"
 #include "app/colouring.h"
-#include "app/log.h"
 #include "app/menu_keys.h"
-#include "app/wait_window.h"
 #include "editor/brace_matcher.h"
 #include "editor/find_bar.h"
 #include "editor/line_number_margin.h"
 #include "platform/qt_text.h"
-#include "platform/report.h"
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
@@ -35,15 +32,16 @@ std::unique_ptr<Ui::fmrconfigedit> setUp(fmrconfigedit& window)
 
 } // namespace
 
-fmrconfigedit::fmrconfigedit(const Desktop& desktop, SharedState& state, const KeywordList& keywords,
-                             WindowSupplier& windows)
-    : m_context{state, desktop.files, desktop.texts, desktop.dialogs, *this},
-      m_windows(windows),
+fmrconfigedit::fmrconfigedit(Context& context, TableStore& strings, const KeywordTree& classes,
+                             const KeywordTree& commands, const KeywordList& keywords)
+    : m_context(context),
+      m_classes(classes),
+      m_commandTree(commands),
       m_keywords(keywords),
       m_ui(setUp(*this)),
-      m_box(*m_ui->configedit, desktop.texts.codePage()),
-      m_live(m_box, keywords, state.Settings),
-      m_commands(m_context, desktop.launcher, *this)
+      m_box(*m_ui->configedit, context.texts.codePage()),
+      m_live(m_box, keywords, context.state.Settings),
+      m_commands(context, strings, m_live, [this](const std::string& caption) { setWindowTitle(toQt(caption)); })
 {
     new BraceMatcher(*m_ui->configedit);
     new LineNumberMargin(*m_ui->configedit);
@@ -77,52 +75,49 @@ void fmrconfigedit::connectDocumentCommands()
     command(m_ui->cmdopen, m_ui->mnufileopen, [this] { m_commands.open(); });
     command(m_ui->cmdsave, m_ui->mnusave, [this] { m_commands.UlozAddon(); });
     command(m_ui->cmdsaveas, m_ui->mnusaveas, [this] { m_commands.saveAs(); });
-    connect(m_ui->cmdrefresh, &QAbstractButton::clicked, this, [this] { refresh(); });
+    connect(m_ui->cmdrefresh, &QAbstractButton::clicked, this, [this] { Uprav2(); });
     connect(m_ui->Command2, &QPushButton::clicked, this, [this] { m_commands.makePbo(); });
-    connect(m_ui->mnufilekonec, &QAction::triggered, this, [this] { m_windows.UnloadAllWindows(); });
-    connect(m_ui->Command1, &QPushButton::clicked, this, [this] { m_windows.UnloadAllWindows(); });
+    connect(m_ui->mnufilekonec, &QAction::triggered, this, [this] { Q_EMIT endWanted(); });
+    connect(m_ui->Command1, &QPushButton::clicked, this, [this] { Q_EMIT endWanted(); });
 }
 
 void fmrconfigedit::connectWindows()
 {
-    const auto modal = [this](auto* sender, auto signal, QStringView name) {
-        connect(sender, signal, this, [this, name] { m_windows.showModal(name); });
+    const auto modal = [this](auto* sender, auto signal, std::string_view name) {
+        connect(sender, signal, this, [this, name] { Q_EMIT modalWanted(name); });
     };
-    const auto beside = [this](auto* sender, auto signal, QStringView name) {
-        connect(sender, signal, this, [this, name] { m_windows.showBeside(name); });
+    const auto beside = [this](auto* sender, auto signal, std::string_view name) {
+        connect(sender, signal, this, [this, name] { Q_EMIT besideWanted(name); });
     };
     const auto clicked = &QAbstractButton::clicked;
     const auto triggered = &QAction::triggered;
-    modal(m_ui->cmdrejstrik, clicked, u"frmrejstrik2");
-    beside(m_ui->cmdstrings, clicked, u"Form4");
-    modal(m_ui->cmdsetup, clicked, u"Form5");
-    beside(m_ui->cmdhelp, clicked, u"Form9");
-    beside(m_ui->mnuwizardfaces, triggered, u"frmfaceaddon");
-    beside(m_ui->mnuwizardgun, triggered, u"Form1");
-    beside(m_ui->mnuammoadd, triggered, u"Form3");
-    beside(m_ui->mnuwizardvehikly, triggered, u"frmvehikl");
-    modal(m_ui->mnusetupedit, triggered, u"Form5");
-    modal(m_ui->mnijazyk, triggered, u"Form7");
-    modal(m_ui->mnuabout, triggered, u"Form8");
+    modal(m_ui->cmdrejstrik, clicked, "frmrejstrik2");
+    beside(m_ui->cmdstrings, clicked, "Form4");
+    modal(m_ui->cmdsetup, clicked, "Form5");
+    beside(m_ui->cmdhelp, clicked, "Form9");
+    beside(m_ui->mnuwizardfaces, triggered, "frmfaceaddon");
+    beside(m_ui->mnuwizardgun, triggered, "Form1");
+    beside(m_ui->mnuammoadd, triggered, "Form3");
+    beside(m_ui->mnuwizardvehikly, triggered, "frmvehikl");
+    modal(m_ui->mnusetupedit, triggered, "Form5");
+    modal(m_ui->mnijazyk, triggered, "Form7");
+    modal(m_ui->mnuabout, triggered, "Form8");
 }
 
 void fmrconfigedit::connectBrowsers()
 {
-    // The trees are those that start-up has shown; an empty browser sends no click.
     connect(m_ui->classes, &BrowserTree::entryClicked, this, [this](std::size_t index) {
-        classClicked(*this, m_classes->nodes()[index], m_context.state.Settings.DeclareFromRoot);
+        classClicked(*this, m_classes.nodes()[index], m_context.state.Settings.DeclareFromRoot);
         m_ui->configedit->ensureCursorVisible();
     });
     connect(m_ui->commands, &BrowserTree::entryClicked, this, [this](std::size_t index) {
-        commandClicked(*this, m_commandTree->nodes()[index]);
+        commandClicked(*this, m_commandTree.nodes()[index]);
         m_ui->configedit->ensureCursorVisible();
     });
 }
 
-void fmrconfigedit::showTrees(const KeywordTree& classes, const KeywordTree& commands)
+void fmrconfigedit::showTrees()
 {
-    m_classes = &classes;
-    m_commandTree = &commands;
     const auto show = [](BrowserTree& browser, const KeywordTree& tree) {
         std::vector<BrowserEntry> entries;
         entries.reserve(tree.nodes().size());
@@ -130,8 +125,8 @@ void fmrconfigedit::showTrees(const KeywordTree& classes, const KeywordTree& com
             entries.push_back({node.text, node.parent, node.isHeading()});
         browser.showEntries(entries);
     };
-    show(*m_ui->classes, classes);
-    show(*m_ui->commands, commands);
+    show(*m_ui->classes, m_classes);
+    show(*m_ui->commands, m_commandTree);
 }
 
 void fmrconfigedit::showFitted()
@@ -144,21 +139,6 @@ void fmrconfigedit::showFitted()
     show();
 }
 
-void fmrconfigedit::startColouring()
-{
-    setColouringEnabled(true);
-}
-
-bool fmrconfigedit::UlozAddon()
-{
-    return m_commands.UlozAddon();
-}
-
-void fmrconfigedit::VlozText(const std::string& Jmeno)
-{
-    m_commands.VlozText(Jmeno);
-}
-
 void fmrconfigedit::Uprav2()
 {
     if (m_context.state.Settings.KeywordColouringOff)
@@ -167,12 +147,11 @@ void fmrconfigedit::Uprav2()
         m_colouringDue = true;
         return;
     }
-    Form2& notice = m_windows.waitWindow();
-    notice.announce(m_box.length());
+    Q_EMIT fullPassBegins(m_box.length());
     m_live.hold();
     colourBox(m_box, m_keywords, m_context.state.Settings);
     m_live.release();
-    notice.hide();
+    Q_EMIT fullPassEnds();
 }
 
 void fmrconfigedit::beginDocumentChange()
@@ -196,7 +175,7 @@ void fmrconfigedit::endDocumentChange()
 
 void fmrconfigedit::closeEvent(QCloseEvent* event)
 {
-    m_windows.saveSettings();
+    Q_EMIT closing();
     event->accept();
 }
 
@@ -227,38 +206,6 @@ void fmrconfigedit::layOut()
         const Geometry& place = places[static_cast<std::size_t>(i)];
         controls[i]->setGeometry(QRectF(place.left, place.top, place.width, place.height).toRect());
     }
-}
-
-void fmrconfigedit::setCaption(const std::string& caption)
-{
-    setWindowTitle(toQt(caption));
-}
-
-void fmrconfigedit::setColouringEnabled(bool enabled)
-{
-    m_live.ColouringEnabled = enabled;
-}
-
-void fmrconfigedit::refresh()
-{
-    setColouringEnabled(false);
-    Uprav2();
-    setColouringEnabled(true);
-}
-
-void fmrconfigedit::readStringtable(const std::string& configPath)
-{
-    m_windows.readStringtable(configPath);
-}
-
-void fmrconfigedit::WriteStringtable(const std::string& path)
-{
-    m_windows.WriteStringtable(path);
-}
-
-void fmrconfigedit::stepFailed(const char* step, const Failure& failure)
-{
-    report(lcApp(), step, failure);
 }
 
 } // namespace kitwright

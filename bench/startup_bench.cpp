@@ -60,7 +60,7 @@ Start start(const std::string& programFolder)
     QtProgramLauncher launcher;
     Start parts;
     const double begin = bench::processorTime();
-    Application application({files, texts, dialogs, launcher}, programFolder);
+    Application application(files, texts, dialogs, launcher, programFolder);
     const double made = bench::processorTime();
     application.start();
     const double started = bench::processorTime();

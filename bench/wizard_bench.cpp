@@ -48,7 +48,7 @@ public:
     TextFiles texts{files, windows1250()};
     QtDialogs dialogs;
     QtProgramLauncher launcher;
-    Application application{{files, texts, dialogs, launcher}, m_folder.path().toStdString()};
+    Application application{files, texts, dialogs, launcher, m_folder.path().toStdString()};
 };
 
 /// Ticked classes with ticked properties, as the window would hand them over.
@@ -83,15 +83,15 @@ struct Order {
 void pressOk(benchmark::State& state, int classCount)
 {
     Program program;
-    Context& context = program.application.mainWindow().context();
+    Context& context = program.application.context();
     context.state.PatchClassName = "Bench";
     const std::string text = bench::sampleConfig(documentSize);
     const Order order(classCount);
-    auto& box = dynamic_cast<ScintillaTextBox&>(context.host.configedit());
+    auto& box = dynamic_cast<ScintillaTextBox&>(context.host->configedit());
     for (auto _ : state) {
         state.PauseTiming();
         box.loadText(text);
-        context.host.Uprav2();
+        context.host->Uprav2();
         state.ResumeTiming();
         writeClasses(context, order.order);
     }
@@ -113,16 +113,16 @@ BENCHMARK(ok2000Classes)->Unit(benchmark::kMillisecond)->Repetitions(3);
 void passOver1000Classes(benchmark::State& state)
 {
     Program program;
-    Context& context = program.application.mainWindow().context();
+    Context& context = program.application.context();
     context.state.PatchClassName = "Bench";
-    context.host.configedit().loadText(bench::sampleConfig(documentSize));
+    context.host->configedit().loadText(bench::sampleConfig(documentSize));
     writeClasses(context, Order(1000).order);
-    const std::string text(context.host.configedit().text());
+    const std::string text(context.host->configedit().text());
     for (auto _ : state) {
         state.PauseTiming();
-        context.host.configedit().loadText(text);
+        context.host->configedit().loadText(text);
         state.ResumeTiming();
-        context.host.Uprav2();
+        context.host->Uprav2();
     }
 }
 BENCHMARK(passOver1000Classes)->Unit(benchmark::kMillisecond)->Repetitions(5);
@@ -131,7 +131,7 @@ BENCHMARK(passOver1000Classes)->Unit(benchmark::kMillisecond)->Repetitions(5);
 void slowestClick(benchmark::State& state)
 {
     Program program;
-    Context& context = program.application.mainWindow().context();
+    Context& context = program.application.context();
     std::vector<ClassRecord> classes;
     for (auto _ : state) {
         QDir().mkpath(QString::fromStdString(context.state.programFolder + "/Bfdata/kitwright"));

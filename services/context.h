@@ -5,19 +5,32 @@
 
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/program_launcher.h"
 #include "services/addon_host.h"
 #include "services/shared_state.h"
 #include "text/text_files.h"
 
+#include <functional>
+#include <string>
+#include <string_view>
+
 namespace kitwright {
 
-/// What a window is built from; the composition root owns all of it and outlives every window.
+/// What windows and commands are built from. There is one, which the composition root owns and which outlives every
+/// window; whatever they come to share is a member here.
 struct Context {
-    SharedState& state;
     FileSystem& files; ///< The one shared file-system service.
     TextFiles& texts;
     Dialogs& dialogs;
-    AddonHost& host;
+    ProgramLauncher& launcher;
+
+    SharedState state{};
+
+    /// Tells of a step that failed and was skipped; without a failure it does nothing.
+    std::function<void(const char* step, const Failure& failure)> report{};
+
+    /// The main window; set before any other window is made.
+    AddonHost* host = nullptr;
 
     /// Text N of the chosen language.
     const std::string& text(std::size_t number) const { return state.TextTable[number]; }

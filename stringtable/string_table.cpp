@@ -83,13 +83,17 @@ void StringTable::add()
     const std::size_t end = blankEnd(m_tail);
     row.before = m_tail.substr(0, end);
     m_tail.erase(0, end);
+    append(std::move(row));
+}
+
+void StringTable::append(Row row)
+{
+    row.number = StringCount() + 1;
     StringEntries.push_back(std::move(row));
 }
 
 void StringTable::remove(std::size_t index)
 {
-    if (index >= StringCount())
-        return;
     const std::string before = std::move(StringEntries[index].before);
     StringEntries.erase(StringEntries.begin() + static_cast<std::ptrdiff_t>(index));
     std::string& following = index < StringCount() ? StringEntries[index].before : m_tail;
@@ -108,20 +112,17 @@ void StringTable::removeAll()
 
 void StringTable::setKey(std::size_t index, std::string_view key)
 {
-    if (index < StringCount())
-        StringEntries[index].Key = key;
+    StringEntries[index].Key = key;
 }
 
 void StringTable::setText(std::size_t index, std::size_t language, std::string_view text)
 {
-    if (index < StringCount() && language < m_languages.size())
-        StringEntries[index].Texts[language] = text;
+    StringEntries[index].Texts[language] = text;
 }
 
 void StringTable::setTicked(std::size_t index, bool ticked)
 {
-    if (index < StringCount())
-        StringEntries[index].ticked = ticked;
+    StringEntries[index].ticked = ticked;
 }
 
 bool StringTable::hasRoomFor(const TableFile& file) const

@@ -18,7 +18,7 @@ namespace kitwright {
 /// The add-on's table of texts: keys in list order, each with a text per language and a tick that says whether it
 /// is written. What was read from a file is kept as it stood there, so that `text` gives back byte for byte
 /// whatever the author did not touch. Keys are compared exactly: two that differ in letter case are two keys.
-/// Positions outside the lists are ignored.
+/// Positions count from 0 and must lie inside the lists.
 class StringTable {
 public:
     /// Appends a language of the program's own list.
@@ -30,11 +30,11 @@ public:
     /// The number of keys.
     std::size_t StringCount() const { return StringEntries.size(); }
 
-    const StringEntry& entry(std::size_t index) const { return StringEntries.at(index); }
-    bool isTicked(std::size_t index) const { return StringEntries.at(index).ticked; }
+    const StringEntry& entry(std::size_t index) const { return StringEntries[index]; }
+    bool isTicked(std::size_t index) const { return StringEntries[index].ticked; }
 
-    /// True for a key that the file of the open document holds, as last read or written.
-    bool belongsToFile(std::size_t index) const { return StringEntries.at(index).inFile; }
+    /// What a key is listed as as long as it lives: how many keys there were when it came, itself included.
+    std::size_t number(std::size_t index) const { return StringEntries[index].number; }
 
     /// Appends a ticked key without a name, its texts empty.
     void add();
@@ -71,8 +71,9 @@ public:
 private:
     /// A key with its place in the file.
     struct Row : StringEntry {
+        std::size_t number = 0;
         bool ticked = true;
-        bool inFile = false;
+        bool inFile = false;               ///< The file of the open document holds it, as last read or written.
         std::optional<TableRecord> record; ///< As it stands in the file; none for a key that was added here.
         std::string before;                ///< Lines of the file in front of the record that are none.
     };
@@ -92,6 +93,7 @@ private:
     /// The pieces one behind the other, each in lines of its own.
     std::string joined(const std::vector<std::string>& pieces) const;
 
+    void append(Row row);
     void takeInParts(const TableFile& file, const TableFile* former);
     void addFileLanguages(const TableFile& file);
 

@@ -4,20 +4,17 @@
 #include "stringtable/stringtable_window.h"
 
 #include "platform/qt_text.h"
-#include "platform/report.h"
 #include "platform/shown_text.h"
-#include "services/paths.h"
-#include "text/list_file.h"
 #include "ui_stringtable_window.h"
 
 #include <QSignalBlocker>
 #include <QTextDocument>
 
+#include <optional>
+
 namespace kitwright {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcStringtable, "kitwright.stringtable")
 
 /// The text of a box as it was typed; unlike its plain text, with no-break spaces.
 QString typedText(const QPlainTextEdit& box)
@@ -62,27 +59,36 @@ void keepSavable(QPlainTextEdit& box, const CodePage& codePage)
     box.setTextCursor(cursor);
 }
 
-/// A row of a list as a position in the table; without a row, one that the table does not have.
 std::size_t position(int row)
 {
     return static_cast<std::size_t>(row);
 }
 
-} // namespace
-
-Form4::Form4(Context& context, QWidget* parent)
-    : QDialog(parent),
-      m_context(context),
-      m_ui(std::make_unique<Ui::Form4>()),
-      m_store(context.files, context.texts, m_table)
+/// The position of the entry that a list highlights.
+std::optional<std::size_t> current(const QListWidget& list)
 {
-    m_ui->setupUi(this);
-    enableEditing(false);
-    connectControls();
-    loadLanguages();
+    return list.currentRow() < 0 ? std::nullopt : std::optional(position(list.currentRow()));
 }
 
-Form4::~Form4() = default;
+} // namespace
+
+Form4::Form4(Context& context, TableStore& store, QWidget* parent)
+    : QDialog(parent),
+      m_context(context),
+      m_store(store),
+      m_table(store.table()),
+      m_ui(std::make_unique<Ui::Form4>())
+{
+    m_ui->setupUi(this);
+    connectControls();
+    showTable();
+    m_store.watch([this](TableChange change) { tableChanged(change); });
+}
+
+Form4::~Form4()
+{
+    m_store.watch({});
+}
 
 void Form4::connectControls()
 {
@@ -90,30 +96,13 @@ void Form4::connectControls()
     connect(m_ui->Command2, &QPushButton::clicked, this, &Form4::removeKey);
     connect(m_ui->Command3, &QPushButton::clicked, this, &Form4::removeAllKeys);
     connect(m_ui->Command4, &QPushButton::clicked, this, &QDialog::hide);
-    connect(m_ui->Command5, &QPushButton::clicked, this, [this] { m_context.host.UlozAddon(); });
+    connect(m_ui->Command5, &QPushButton::clicked, this, [this] { m_context.host->UlozAddon(); });
     connect(m_ui->List1, &CheckList::entryClicked, this, &Form4::showKey);
     connect(m_ui->List2, &QListWidget::currentRowChanged, this, &Form4::showText);
     // A click on the current language shows the text of a key that became current since.
     connect(m_ui->List2, &QListWidget::itemClicked, this, &Form4::showText);
     connect(m_ui->Text1, &QLineEdit::textChanged, this, &Form4::storeKey);
     connect(m_ui->Text2, &QPlainTextEdit::textChanged, this, &Form4::storeText);
-}
-
-void Form4::loadLanguages()
-{
-    const std::string path = m_context.inProgramFolder("\\Bfdata\\kitwright\\languages.dat");
-    if (!m_context.files.fileExists(path))
-        return;
-    const Outcome<std::string> text = m_context.texts.read(path);
-    if (!text) {
-        report(lcStringtable(), "reading the languages", text.reason());
-        return;
-    }
-    constexpr std::size_t mostLanguages = 1'000;
-    for (const ListEntry& entry : listEntries(*text, mostLanguages))
-        m_table.addLanguage(entry.text);
-    report(lcStringtable(), "reading the languages", linesLeftOut(path, *text, mostLanguages));
-    showLanguages();
 }
 
 void Form4::addKey()
@@ -127,11 +116,11 @@ void Form4::addKey()
 
 void Form4::removeKey()
 {
-    const int row = m_ui->List1->currentRow();
-    if (row < 0)
+    const std::optional<std::size_t> key = current(*m_ui->List1);
+    if (!key)
         return;
-    m_ui->List1->removeEntry(row);
-    m_table.remove(position(row));
+    m_table.remove(*key);
+    m_ui->List1->removeEntry(m_ui->List1->currentRow());
     if (m_table.StringCount() == 0)
         removeAllKeys();
 }
@@ -147,6 +136,7 @@ void Form4::removeAllKeys()
 
 void Form4::showKey(int row)
 {
+    m_table.setTicked(position(row), m_ui->List1->isTicked(row));
     const QString key = toQt(m_table.entry(position(row)).Key);
     // Setting the same text would move the caret of someone who is typing.
     if (m_ui->Text1->text() == key)
@@ -158,16 +148,18 @@ void Form4::showKey(int row)
 void Form4::storeKey()
 {
     keepSavable(*m_ui->Text1, m_context.texts.codePage());
-    const int row = m_ui->List1->currentRow();
-    if (row < 0)
+    const std::optional<std::size_t> key = current(*m_ui->List1);
+    if (!key)
         return;
-    m_table.setKey(position(row), fromQt(m_ui->Text1->text()));
-    showTip(row);
+    m_table.setKey(*key, fromQt(m_ui->Text1->text()));
+    // A new tool tip would look like a change of the entry's tick.
+    const QSignalBlocker quiet(m_ui->List1);
+    m_ui->List1->currentItem()->setToolTip(shownText(m_table.entry(*key).Key));
 }
 
 void Form4::showText()
 {
-    if (m_ui->List1->currentRow() < 0 || m_ui->List2->currentRow() < 0)
+    if (!current(*m_ui->List1) || !current(*m_ui->List2))
         return;
     const QSignalBlocker quiet(m_ui->Text2);
     // A box lays its text out as one paragraph. A longer one is kept and written as it is, but not edited here.
@@ -181,28 +173,38 @@ void Form4::showText()
 void Form4::storeText()
 {
     keepSavable(*m_ui->Text2, m_context.texts.codePage());
-    m_table.setText(position(m_ui->List1->currentRow()), position(m_ui->List2->currentRow()),
-                    withCrLf(fromQt(typedText(*m_ui->Text2))));
+    const std::optional<std::size_t> key = current(*m_ui->List1);
+    const std::optional<std::size_t> language = current(*m_ui->List2);
+    if (key && language)
+        m_table.setText(*key, *language, withCrLf(fromQt(typedText(*m_ui->Text2))));
 }
 
-void Form4::readTable(const std::string& configPath)
+void Form4::tableChanged(TableChange change)
 {
-    takeTicks();
-    QStringList labels;
-    for (int row = 0; row < m_ui->List1->count(); ++row) {
-        if (!m_table.belongsToFile(position(row)))
-            labels += m_ui->List1->item(row)->text();
+    switch (change) {
+    case TableChange::Opened:
+        showTable();
+        break;
+    case TableChange::Saving:
+        m_textBeforeSave = currentText();
+        break;
+    case TableChange::Saved:
+        if (m_ui->List1->count() == 0 && m_table.StringCount() > 0) {
+            enableEditing(true);
+            m_ui->Command5->setEnabled(true);
+        }
+        showNewKeys();
+        showLanguages();
+        if (m_textBeforeSave != currentText())
+            showText();
+        break;
     }
-    report(lcStringtable(), "reading the stringtable", m_store.open(FolderOf(configPath)));
+}
 
+void Form4::showTable()
+{
     m_ui->List1->removeAll();
     showNewKeys();
-    {
-        // A new label would look like a change of the entry's tick.
-        const QSignalBlocker quiet(m_ui->List1);
-        for (int row = 0; row < labels.size(); ++row)
-            m_ui->List1->item(row)->setText(labels[row]);
-    }
     showLanguages();
     // No key is chosen, so the boxes stand for none: nothing typed now may land in a key of the new document.
     const QSignalBlocker quiet1(m_ui->Text1);
@@ -215,36 +217,11 @@ void Form4::readTable(const std::string& configPath)
     m_ui->Command5->setEnabled(true);
 }
 
-void Form4::WriteStringtable(const std::string& path)
-{
-    takeTicks();
-    const QString shown = currentText();
-    const bool wasEmpty = m_ui->List1->count() == 0;
-    report(lcStringtable(), "writing the stringtable", m_store.save(path, m_context.state.CurrentFile));
-    // A file that stood there may have brought keys, languages and texts.
-    showNewKeys();
-    showLanguages();
-    if (wasEmpty && m_table.StringCount() > 0) {
-        enableEditing(true);
-        m_ui->Command5->setEnabled(true);
-    }
-    if (shown != currentText())
-        showText();
-}
-
 QString Form4::currentText() const
 {
-    const std::size_t key = position(m_ui->List1->currentRow());
-    const std::size_t language = position(m_ui->List2->currentRow());
-    if (key >= m_table.StringCount() || language >= m_table.languages().size())
-        return {};
-    return toQt(m_table.entry(key).Texts[language]);
-}
-
-void Form4::takeTicks()
-{
-    for (int row = 0; row < m_ui->List1->count(); ++row)
-        m_table.setTicked(position(row), m_ui->List1->isTicked(row));
+    const std::optional<std::size_t> key = current(*m_ui->List1);
+    const std::optional<std::size_t> language = current(*m_ui->List2);
+    return key && language ? toQt(m_table.entry(*key).Texts[*language]) : QString();
 }
 
 /// Lists the keys that the list does not have yet.
@@ -253,7 +230,8 @@ void Form4::showNewKeys()
     m_ui->List1->setUpdatesEnabled(false);
     for (int row = m_ui->List1->count(); row < static_cast<int>(m_table.StringCount()); ++row) {
         const std::size_t key = position(row);
-        m_ui->List1->addEntry(QStringLiteral("String %1").arg(row + 1), shownText(m_table.entry(key).Key));
+        m_ui->List1->addEntry(QStringLiteral("String %1").arg(m_table.number(key)),
+                              shownText(m_table.entry(key).Key));
         m_ui->List1->setTicked(row, m_table.isTicked(key));
     }
     m_ui->List1->setUpdatesEnabled(true);
@@ -270,13 +248,6 @@ void Form4::showLanguages()
             m_ui->List2->addItem(QString());
         m_ui->List2->item(row)->setText(shownText(languages[position(row)]));
     }
-}
-
-void Form4::showTip(int row)
-{
-    // A new tool tip would look like a change of the entry's tick.
-    const QSignalBlocker quiet(m_ui->List1);
-    m_ui->List1->item(row)->setToolTip(shownText(m_table.entry(position(row)).Key));
 }
 
 void Form4::enableEditing(bool enabled)

@@ -144,7 +144,7 @@ private:
         row.inFile = true;
         row.record = record;
         row.before = passed();
-        m_table.StringEntries.push_back(std::move(row));
+        m_table.append(std::move(row));
     }
 
     /// True for a text that the row has, and that did not come out of the file that is read again.

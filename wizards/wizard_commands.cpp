@@ -25,7 +25,7 @@ constexpr std::size_t askCopyText = 74;
 void saveUntilThereIsAPath(Context& context)
 {
     while (context.state.CurrentFile.empty())
-        context.host.UlozAddon();
+        context.host->UlozAddon();
 }
 
 void askPatchClassName(Context& context)
@@ -46,15 +46,15 @@ bool chooseNewPath(Context& context)
     context.state.CurrentFile.clear();
     bool saved = false;
     while (context.state.CurrentFile.empty())
-        saved = context.host.UlozAddon();
+        saved = context.host->UlozAddon();
     return saved;
 }
 
 void startNewAddon(Context& context)
 {
-    context.host.configedit().setText("");
+    context.host->configedit().setText("");
     askPatchClassNameIfNone(context);
-    context.host.VlozText(context.state.PatchClassName);
+    context.host->VlozText(context.state.PatchClassName);
 }
 
 /// What the document can hold of a text.
@@ -68,15 +68,15 @@ void registerClasses(Context& context, std::string_view list, std::vector<std::s
 {
     for (std::string& name : names)
         name = kept(context, std::move(name));
-    AddToPatchList(context.host.configedit(), list, std::span<const std::string>(names));
+    AddToPatchList(context.host->configedit(), list, std::span<const std::string>(names));
 }
 
 /// Appends in one piece, so that it costs one edit, and has the whole document coloured.
 void append(Context& context, std::string block)
 {
-    RichTextBox& editor = context.host.configedit();
+    RichTextBox& editor = context.host->configedit();
     editor.replaceRange(editor.length(), 0, kept(context, std::move(block)));
-    context.host.Uprav2();
+    context.host->Uprav2();
 }
 
 /// Gives the declarations of a base class, each looked up in the class tree once.
@@ -100,7 +100,7 @@ ClassBlock blockOf(Context& context, const ClassOrder& order)
     input.PatchClassName = context.state.PatchClassName;
     input.fileExists = [&context](const std::string& path) { return context.files.fileExists(path); };
     if (order.declareBases)
-        input.declarations = declarationsFrom(context.host.classes());
+        input.declarations = declarationsFrom(context.host->classes());
     return classBlock(input);
 }
 
@@ -112,7 +112,7 @@ Failures writeClasses(Context& context, const ClassOrder& order)
         return {}; // The save has told why.
     std::vector<FileCopy> copies;
     {
-        const DocumentChange change(context.host);
+        const DocumentChange change(*context.host);
         if (order.target == AddonTarget::NewAddon)
             startNewAddon(context);
         if (!order.patchList.empty())
@@ -124,7 +124,7 @@ Failures writeClasses(Context& context, const ClassOrder& order)
     }
     // The save comes after the block, so that no half-written document reaches the disk.
     if (!copies.empty() && context.state.CurrentFile.empty())
-        context.host.UlozAddon();
+        context.host->UlozAddon();
     return copyIntoAddon(context.files, context.state.CurrentFile, copies);
 }
 
@@ -132,13 +132,13 @@ Failures writeVehicle(Context& context, const VehicleOrder& order)
 {
     if (order.target == AddonTarget::NewAddon && !chooseNewPath(context))
         return {}; // The save has told why.
-    const DocumentChange change(context.host);
+    const DocumentChange change(*context.host);
     if (order.target == AddonTarget::NewAddon)
         startNewAddon(context);
     askPatchClassNameIfNone(context);
     registerClasses(context, "UNITS[]", {order.name});
     const std::string declarations =
-        order.declareBase ? baseClassBlock(context.host.classes(), order.baseClass) : std::string();
+        order.declareBase ? baseClassBlock(context.host->classes(), order.baseClass) : std::string();
     append(context,
            vehicleBlock({order.name, order.baseClass, declarations, order.tree, order.ticked, order.properties}));
     return {};
@@ -162,12 +162,12 @@ ModelValue modelValue(Context& context, const std::string& path)
 Failures writeFaces(Context& context, const FaceOrder& order)
 {
     {
-        const DocumentChange change(context.host);
+        const DocumentChange change(*context.host);
         if (order.target == AddonTarget::NewAddon) {
             context.state.CurrentFile.clear();
-            context.host.configedit().setText("");
+            context.host->configedit().setText("");
             askPatchClassName(context);
-            context.host.VlozText(context.state.PatchClassName);
+            context.host->VlozText(context.state.PatchClassName);
         }
         append(context, faceBlock(order.catalogue, order.faces, order.ticked));
     }

@@ -99,7 +99,7 @@ std::string useTree(Play& play, const char* name)
     program.openDocument(play.stage.path(document));
     auto& tree = program.control<BrowserTree>(name);
     explore(program, tree);
-    program.application().state().Settings.DeclareFromRoot = true;
+    program.application().context().state.Settings.DeclareFromRoot = true;
     program.clickThrough(tree);
     lookIntoIndex(program);
     return {};
@@ -218,7 +218,8 @@ std::string useLanguage(Play& play)
         names.setCurrentItem(names.findItems(QStringLiteral("bad.lng"), Qt::MatchExactly).at(0));
         program.use("Command1", "Form7");
     });
-    expect(program.application().state().Settings.LanguageFile.ends_with("/bad.lng"), "the language was not taken");
+    expect(program.application().context().state.Settings.LanguageFile.ends_with("/bad.lng"),
+           "the language was not taken");
     for (const char* name : {"Form1", "Form2", "Form3", "Form4", "Form5", "Form6", "Form7", "Form8", "Form9",
                              "frmfaceaddon", "frmrejstrik2", "frmvehikl"}) {
         QWidget* window = program.application().window(name);
@@ -227,7 +228,7 @@ std::string useLanguage(Play& play)
         window->hide();
     }
     std::size_t filled = 0;
-    for (const std::string& text : program.application().state().TextTable)
+    for (const std::string& text : program.application().context().state.TextTable)
         filled += text.empty() ? 0 : 1;
     return std::to_string(filled) + " texts";
 }

@@ -152,7 +152,7 @@ std::string useSettings(Play& play)
         play.program.use("Check1", "Form5");
         play.program.use("Check1", "Form5");
     });
-    const bool isDefault = play.program.application().state().Settings.LanguageFile.empty();
+    const bool isDefault = play.program.application().context().state.Settings.LanguageFile.empty();
     return isDefault ? "read as far as it goes" : "a language is named";
 }
 

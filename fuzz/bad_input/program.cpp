@@ -43,7 +43,7 @@ Program::Program(const Stage& stage) : m_texts(m_files, windows1250()), m_folder
 
 void Program::start()
 {
-    m_application = std::make_unique<Application>(Desktop{m_files, m_texts, dialogs, m_launcher}, m_folder);
+    m_application = std::make_unique<Application>(m_files, m_texts, dialogs, m_launcher, m_folder);
     m_application->start();
     m_application->mainWindow().showFitted();
     m_application->mainWindow().activateWindow();
@@ -151,7 +151,7 @@ bool Program::openDocument(const std::string& path)
     dialogs.fileToOpen = path;
     use("cmdopen");
     dialogs.fileToOpen.reset();
-    return application().state().CurrentFile == path;
+    return application().context().state.CurrentFile == path;
 }
 
 void Program::close()

@@ -24,7 +24,7 @@ Stage::Stage(std::uint64_t seed, bool tracing, Coverage& coverage, std::function
 
 void Stage::start()
 {
-    m_application = std::make_unique<Application>(Desktop{files, m_texts, dialogs, m_launcher}, "/program");
+    m_application = std::make_unique<Application>(files, m_texts, dialogs, m_launcher, "/program");
     m_coverage.learnEntries(main());
     // The editor follows its widest line by the clock, which would make two walks differ.
     constexpr int wide = 5000;

@@ -44,7 +44,7 @@ public:
     fmrconfigedit& main() { return m_application->mainWindow(); }
     RichTextBox& box() { return main().configedit(); }
     ScintillaControl& editor();
-    const SharedState& state() override { return m_application->state(); }
+    const SharedState& state() override { return m_application->context().state; }
     std::string_view document() override { return box().text(); }
     bool isComposing() override;
 

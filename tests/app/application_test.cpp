@@ -73,6 +73,16 @@ TEST(Start, ShowsTheLinesOfTheLanguageInControlsThatTheyFit)
     }
 }
 
+TEST(MainWindow, WritesTheStringtableWithoutItsWindow)
+{
+    testing::RunningApplication app;
+    app.startWith();
+    app.dialogs.answers["save"] = {"/a/config.cpp"};
+    app.use("cmdsave");
+    EXPECT_TRUE(app.files.fileExists("/a/Stringtable.csv"));
+    EXPECT_EQ(app.program().mainWindow().findChild<QWidget*>("Form4"), nullptr);
+}
+
 TEST(MainWindow, KeepsTheSharesOfItsControlsThroughAnyResizes)
 {
     testing::RunningApplication app;

@@ -44,7 +44,7 @@ RunningApplication::RunningApplication() : m_texts(files, windows1250())
 bool RunningApplication::start(const std::function<void(QWidget&)>& atChooser)
 {
     m_application.reset();
-    m_application = std::make_unique<Application>(Desktop{files, m_texts, dialogs, dialogs}, "/program");
+    m_application = std::make_unique<Application>(files, m_texts, dialogs, dialogs, "/program");
     const bool chooserCame = withModal([this] { m_application->start(); }, atChooser);
     QWidget& main = m_application->mainWindow();
     m_application->mainWindow().showFitted();

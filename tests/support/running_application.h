@@ -33,7 +33,7 @@ public:
     void startWith(const std::string& languageFile = {});
 
     Application& program() { return *m_application; }
-    SharedState& state() { return m_application->state(); }
+    SharedState& state() { return m_application->context().state; }
     RichTextBox& box() { return m_application->mainWindow().configedit(); }
 
     /// A window, or a control of a window, by its name; throws when there is none. Other windows, which bear the same
