@@ -7,7 +7,7 @@
 
 #include <QFile>
 
-#ifdef Q_OS_UNIX
+#ifdef Q_OS_LINUX
 #include <cerrno>
 #include <fcntl.h>
 #endif
@@ -16,15 +16,13 @@ namespace kitwright {
 
 namespace {
 
-/// Claims room for `size` bytes; an error text, empty on success.
+/// Claims room for `size` bytes, so that they cannot run out of it halfway; an error text, empty on success. The file
+/// keeps its size: a program that is killed before it writes leaves it as it was.
 QString claimRoom([[maybe_unused]] QFile& file, [[maybe_unused]] qint64 size)
 {
-#ifdef Q_OS_UNIX
-    if (size > file.size()) {
-        const int error = ::posix_fallocate(file.handle(), 0, size);
-        if (error != 0 && error != EOPNOTSUPP && error != EINVAL)
-            return qt_error_string(error);
-    }
+#ifdef Q_OS_LINUX
+    if (size > file.size() && ::fallocate(file.handle(), FALLOC_FL_KEEP_SIZE, 0, size) != 0 && errno != EOPNOTSUPP)
+        return qt_error_string(errno);
 #endif
     return {};
 }

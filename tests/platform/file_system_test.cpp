@@ -10,15 +10,9 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <fstream>
-#include <random>
-#include <set>
-#include <thread>
 #include <unistd.h>
 
 namespace kitwright {
@@ -43,17 +37,6 @@ struct Disk : ::testing::Test {
     QTemporaryDir dir;
     QtFileSystem files;
 };
-
-/// Saves the versions in turn, and copies each to "copy" beside it, until it is killed.
-[[noreturn]] void saveForEver(const std::string& path, const std::string& copy,
-                              const std::vector<std::string>& versions)
-{
-    QtFileSystem files;
-    for (std::size_t round = 0;; ++round) {
-        if (files.writeBytes(path, versions[round % versions.size()]) || files.copyFile(path, copy))
-            _exit(1);
-    }
-}
 
 TEST_F(Disk, ReplacesFilesAndKeepsTheirModes)
 {
@@ -210,34 +193,6 @@ TEST_F(Disk, ListsFoldersAndTakesABackslashAsSeparator)
         EXPECT_EQ(files.writeBytes(at(file), "inside"), Failure());
     EXPECT_EQ(files.listFiles(at("c\\d"))->size(), 2);
     EXPECT_EQ(*files.listFiles(at("c/d")), Names());
-}
-
-TEST_F(Disk, HoldsOldOrNewFilesWheneverASaveOrACopyIsKilled)
-{
-    const std::string path = at("config.cpp");
-    const std::vector<std::string> versions = {std::string(3'000'000, 'a'), std::string(2'000'000, 'b'), "short"};
-    const std::set<std::string> whole(versions.begin(), versions.end());
-    ASSERT_FALSE(files.writeBytes(path, versions.front()) || files.copyFile(path, at("copy")));
-
-    constexpr int kills = 200;
-    constexpr int longestLife = 30'000; // µs: several saves and copies
-    std::mt19937 random(20260101);
-    for (int kill = 0; kill < kills; ++kill) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0)
-            saveForEver(path, at("copy"), versions);
-        std::this_thread::sleep_for(std::chrono::microseconds(random() % longestLife));
-        ::kill(child, SIGKILL);
-        int status = 0;
-        waitpid(child, &status, 0);
-        ASSERT_TRUE(WIFSIGNALED(status)) << "a save failed";
-        for (const std::string& name : {path, at("copy")}) {
-            const auto bytes = files.readBytes(name);
-            ASSERT_TRUE(bytes) << bytes.reason();
-            ASSERT_TRUE(whole.contains(*bytes)) << "torn after kill " << kill << ": " << bytes->size();
-        }
-    }
 }
 
 } // namespace
