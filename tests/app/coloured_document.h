@@ -5,7 +5,7 @@
 
 #include "editor/scintilla_control.h"
 #include "editor/scintilla_text_box.h"
-#include "fuzz/support/keywords.h"
+#include "support/sample_keywords.h"
 #include "support/scenario.h"
 #include "support/style_marks.h"
 #include "support/typing.h"
@@ -21,8 +21,8 @@ struct ColouredDocument : ::testing::Test {
 
     ScintillaControl control;
     ScintillaTextBox box{control, windows1250()};
-    const KeywordList keywords = fuzzing::sampleKeywords();
-    EditorSettings settings = fuzzing::distinctStyles();
+    const KeywordList keywords = sampleKeywords();
+    EditorSettings settings = distinctStyles();
 };
 
 } // namespace kitwright::testing

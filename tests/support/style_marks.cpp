@@ -57,7 +57,7 @@ std::string marked(const RichTextBox& box, Position from, const EditorSettings& 
 
 std::string markedText(const RichTextBox& box)
 {
-    return render(box, 0, std::numeric_limits<Position>::max(), fuzzing::distinctStyles());
+    return render(box, 0, std::numeric_limits<Position>::max(), distinctStyles());
 }
 
 } // namespace kitwright::testing
