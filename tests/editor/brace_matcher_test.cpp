@@ -9,6 +9,9 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <span>
+
 namespace kitwright {
 
 TEST(BraceMatcher, FindsThePartnerHoweverFarItIs)
@@ -29,15 +32,17 @@ TEST(BraceMatcher, FindsThePartnerHoweverFarItIs)
     control.show();
     const auto shows = [&](const QColor& colour) {
         const QImage image = control.grab().toImage().convertToFormat(QImage::Format_RGB32);
-        const auto* pixels = reinterpret_cast<const QRgb*>(image.constBits());
-        return std::find(pixels, pixels + image.width() * image.height(), colour.rgb())
-            != pixels + image.width() * image.height();
+        const std::span pixels(reinterpret_cast<const QRgb*>(image.constBits()),
+                               static_cast<std::size_t>(image.width() * image.height()));
+        return std::find(pixels.begin(), pixels.end(), colour.rgb()) != pixels.end();
     };
     for (const auto& [text, caretAtEnd, seen] : cases) {
         control.setText(text);
         const auto end = static_cast<unsigned long>(text.size());
         control.SendScintilla(QsciScintillaBase::SCI_GOTOPOS, caretAtEnd ? end : 0UL);
-        const auto isRight = [&] { return shows(matched) == (seen == matched) && shows(alone) == (seen == alone); };
+        const auto isRight = [&, seen = seen] {
+            return shows(matched) == (seen == matched) && shows(alone) == (seen == alone);
+        };
         QTest::qWait(10);
         EXPECT_TRUE(QTest::qWaitFor(isRight, 5000)) << text.left(5).toStdString() << caretAtEnd;
     }

@@ -4,6 +4,7 @@
 #include "editor/scintilla_text_box.h"
 
 #include "editor/scintilla_control.h"
+#include "support/typing.h"
 #include "text/windows_1250.h"
 
 #include <QAccessible>
@@ -61,6 +62,22 @@ TEST_F(Control, DropsWhatTheCodePageLacksAndMendsLineEndsHoweverTextComes)
     EXPECT_EQ(box.caret(), box.length());
     box.setText("日\r");
     EXPECT_EQ(box.text(), "\r\n");
+}
+
+TEST_F(Control, KeepsTheSelectionOnItsCharactersWhenTheProgramEdits)
+{
+    const std::tuple<std::string, Position, Position, std::string, std::string> cases[] = {
+        {"abc|d", 0, 1, "XYZ", "XYZbc|d"}, {"a|bcd", 2, 2, "", "a|b"},     {"ab|cd", 2, 0, "X", "ab|Xcd"},
+        {"ab|cd", 1, 2, "X", "aX|d"},      {"ž[cd|e", 3, 0, "č", "ž[cčd|e"}, {"[ab|cd", 2, 0, "X", "[ab|Xcd"},
+        {"a[bc|d", 0, 2, "", "[c|d"},      {"a|b", 99, 5, "X", "a|bX"}};
+    for (const auto& [before, start, length, by, after] : cases) {
+        testing::loadMarked(box, before);
+        box.replaceRange(start, length, by);
+        const std::string text(box.text());
+        const Selection selection = box.selection();
+        testing::loadMarked(box, after);
+        EXPECT_TRUE(box.text() == text && box.selection() == selection) << before << ' ' << text;
+    }
 }
 
 TEST_F(Control, ForgetsARectangleWhenTheProgramSelects)

@@ -17,15 +17,13 @@ using Texts = std::vector<std::string>;
 struct Words final : TextList {
     Words(Texts entries) : words(std::move(entries))
     {
-        std::sort(words.begin(), words.end(),
-                  [](auto& left, auto& right) { return upperCased(left) < upperCased(right); });
+        std::ranges::sort(words, {}, [](auto& word) { return upperCased(word); });
     }
     int count() const override { return static_cast<int>(words.size()); }
     std::string_view textAt(int index) const override
     {
         return index < 0 || index >= count() ? std::string_view() : words[static_cast<std::size_t>(index)];
     }
-    int prefix(std::string_view key) const { return FindPrefix(0, count() - 1, key, *this); }
 
     Texts words;
 };
@@ -46,7 +44,7 @@ TEST(Searches, FindTheFirstEntryWithABeginning)
         {{"class", "classes", "clear"}, "cl", 0}, {{"_x", "A_x", "a1", "az"}, "a_", 2}, {{"  classes"}, "cla", -1},
         {{"class", "classes"}, "CLASSE", 1},      {{"Žába", "zebra", "žal"}, "ž", 1},   {{}, "cl", -1}};
     for (const auto& [words, key, found] : cases)
-        EXPECT_EQ(Words(words).prefix(key), found) << key;
+        EXPECT_EQ(FindPrefix(0, static_cast<int>(words.size()) - 1, key, Words(words)), found) << key;
 }
 
 } // namespace

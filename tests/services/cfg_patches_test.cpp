@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "services/patch_list.h"
-
 #include "editor/scintilla_control.h"
 #include "editor/scintilla_text_box.h"
+#include "services/config_scanner.h"
+#include "services/patch_list.h"
 #include "support/scenario.h"
 #include "text/windows_1250.h"
 
@@ -12,6 +12,15 @@
 
 namespace kitwright {
 namespace {
+
+TEST(PatchClassName, IsTheFirstClassInsideTheBlock)
+{
+    for (const auto& [text, found] : testing::scenarioTable<2>("tables/patch_class.txt")) {
+        std::string patchClass = "before";
+        ReadPatchClassName(text, patchClass);
+        EXPECT_EQ(patchClass, found) << text;
+    }
+}
 
 struct PatchList : ::testing::Test {
     std::string added(const std::string& text, const std::string& item)
@@ -55,7 +64,7 @@ TEST_F(PatchList, ScansTheFirstBlockFromTheKeywordOn)
         const std::string front = "class A {\r\n units[]={};\r\n};\r\n" + std::string(start, ' ');
         EXPECT_EQ(added(front + config("units[]={Old};"), "New"), front + config("units[]={New,Old};"));
     }
-    const std::string comment = "// " + std::string(5000, 'x') + "\r\n";
+    const std::string comment = std::string("// ").append(5000, 'x') + "\r\n";
     EXPECT_EQ(added(config(comment + list), "New"), config(comment + "units[]={New};\r\n"));
 }
 
