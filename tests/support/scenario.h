@@ -13,22 +13,23 @@
 
 namespace kitwright::testing {
 
-/// The cells of a line, apart by blanks. One that has blanks or is empty stands in double quotes; the escapes of C
-/// \r \n \t \0 \xHH are known.
+/// The cells of a line, apart by blanks. One that is empty or holds blanks or ";" stands in double quotes; the escapes
+/// of C \r \n \t \0 \xHH are known, and "¶" is CR LF. A comment begins with "//" or "#".
 using Cells = std::vector<std::string>;
 
-/// The lines of tests/data/<file>, without empty ones and "#" comments; throws when there are none.
+/// The lines of tests/data/<file> that have cells; throws when there are none.
 std::vector<Cells> scenarioLines(const std::string& file);
 
-/// A table of cases; throws when a line has another number of cells.
+/// A table of cases, one or more in a line; throws when a line ends within a case.
 template <std::size_t columns>
 std::vector<std::array<std::string, columns>> scenarioTable(const std::string& file)
 {
     std::vector<std::array<std::string, columns>> table;
-    for (Cells& cells : scenarioLines(file)) {
-        if (cells.size() != columns)
+    for (const Cells& cells : scenarioLines(file)) {
+        if (cells.size() % columns != 0)
             throw std::runtime_error(file + ": not a line of the table: " + cells.front());
-        std::move(cells.begin(), cells.end(), table.emplace_back().begin());
+        for (auto cell = cells.begin(); cell != cells.end(); cell += columns)
+            std::copy_n(cell, columns, table.emplace_back().begin());
     }
     return table;
 }
@@ -47,15 +48,20 @@ using Steps = std::vector<Step>;
 /// Stories by their names.
 using Stories = std::map<std::string, Steps>;
 
-/// The stories of a text, whose place is told as `place`. A step is a line of cells; lines behind it that begin with
-/// "|" are one more cell, with CR LF between them and without escapes. "== Name" begins a story, "-- Name" steps that
-/// the stories below it do with "after Name". A text without stories is one, without a name.
+/// The stories of a text, whose place is told as `place`. Steps are cells, apart by ";". Lines behind a step that begin
+/// with "|" are one more cell of it, with CR LF between them and without escapes; "|@file" is the text of that file of
+/// tests/data. "== Name" begins a story. "-- verb" begins the steps that this verb stands for in the stories below it,
+/// with "$1" for the first cell behind it; the verbs of verbs.txt are known to all stories. A text without "==" is one
+/// story, without a name.
 Stories storiesIn(const std::string& text, const std::string& place);
-
-/// The stories of tests/data/<file>.
-Stories readStories(const std::string& file);
 
 /// The bytes of tests/data/<file>.
 std::string scenarioText(const std::string& file);
+
+/// The stories of tests/data/<file>.
+inline Stories readStories(const std::string& file)
+{
+    return storiesIn(scenarioText(file), file);
+}
 
 } // namespace kitwright::testing
