@@ -64,19 +64,16 @@ struct Order {
             record.Properties.assign(propertyCount, {"{1, 2, \"value\"}", true});
             classes.push_back(std::move(record));
         }
-        ticked.assign(classes.size(), true);
         order.target = AddonTarget::CurrentAddon;
         order.patchList = "weapons[]";
         order.blockName = "CfgWeapons";
         order.catalogue = catalogue;
         order.classes = classes;
-        order.ticked = ticked;
         order.declareBases = true;
     }
 
     std::vector<ListEntry> catalogue;
     std::vector<ClassRecord> classes;
-    std::vector<bool> ticked;
     ClassOrder order;
 };
 

@@ -76,14 +76,6 @@ void CheckList::setTicks(const std::vector<bool>& ticks)
     viewport()->update();
 }
 
-std::vector<bool> CheckList::ticks() const
-{
-    std::vector<bool> result(static_cast<std::size_t>(count()));
-    for (int row = 0; row < count(); ++row)
-        result[static_cast<std::size_t>(row)] = isTicked(row);
-    return result;
-}
-
 void CheckList::setEntryText(int row, const QString& text)
 {
     const QScopedValueRollback quiet(m_quiet, true);

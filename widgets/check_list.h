@@ -28,9 +28,6 @@ public:
     /// As `setTicked` for every entry from the first on, as many as `ticks` has; quick for thousands of entries.
     void setTicks(const std::vector<bool>& ticks);
 
-    /// The ticks of all entries.
-    std::vector<bool> ticks() const;
-
     /// Changes what an entry says; not a click.
     void setEntryText(int row, const QString& text);
 

@@ -20,9 +20,9 @@ public:
     ClassBlock write()
     {
         text().append("\r\nclass ").append(m_input.blockName).append("\r\n{\r\n");
-        for (std::size_t i = 0; i < m_input.classes.size(); ++i) {
-            if (i < m_input.ticked.size() && m_input.ticked[i])
-                writeClass(m_input.classes[i]);
+        for (const ClassRecord& record : m_input.classes) {
+            if (record.ticked)
+                writeClass(record);
         }
         text() += "};\r\n";
         m_block.copies = m_copies.copies();
@@ -82,12 +82,12 @@ ClassBlock classBlock(const ClassBlockInput& input)
     return BlockWriter(input).write();
 }
 
-std::vector<std::string> tickedNames(std::span<const ClassRecord> classes, const std::vector<bool>& ticked)
+std::vector<std::string> tickedNames(std::span<const ClassRecord> classes)
 {
     std::vector<std::string> names;
-    for (std::size_t i = 0; i < std::min(classes.size(), ticked.size()); ++i) {
-        if (ticked[i])
-            names.push_back(classes[i].Name);
+    for (const ClassRecord& record : classes) {
+        if (record.ticked)
+            names.push_back(record.Name);
     }
     return names;
 }

@@ -20,7 +20,6 @@ struct ClassBlockInput {
     std::string_view blockName; ///< Of the class around the classes: "CfgWeapons".
     std::span<const ListEntry> catalogue;
     std::span<const ClassRecord> classes;
-    std::vector<bool> ticked; ///< For each class, whether it is written.
     std::string_view PatchClassName;
 
     /// Tells whether there is a file at a path; asked once for each path.
@@ -40,6 +39,6 @@ struct ClassBlock {
 ClassBlock classBlock(const ClassBlockInput& input);
 
 /// The names of the ticked classes, in their order.
-std::vector<std::string> tickedNames(std::span<const ClassRecord> classes, const std::vector<bool>& ticked);
+std::vector<std::string> tickedNames(std::span<const ClassRecord> classes);
 
 } // namespace kitwright

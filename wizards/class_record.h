@@ -22,18 +22,21 @@ struct ClassRecord {
     std::string Name;
     std::string BaseClass;
     std::vector<PropertySetting> Properties; ///< One for each entry of the property catalogue, in its order.
+    bool ticked = true;                      ///< Only then is it written.
 };
 
 /// A face of the face wizard.
 struct FaceRecord {
     std::vector<PropertySetting> Properties; ///< One for each entry of the face catalogue, in its order.
     std::string Name;
+    bool ticked = true; ///< Only then is it written.
 };
 
 /// What the vehicle wizard keeps for a node of its property tree.
 struct VehicleProperty {
     std::string ParentCaption; ///< Caption of the node's parent, once the node was clicked.
     std::string Value;         ///< Written as it stands.
+    bool ticked = false;       ///< Only then is it written.
 };
 
 /// The arrays of the four wizards. Element i of the first three stands for entry i of its window's list; how many

@@ -39,25 +39,25 @@ ClassWizard::ClassWizard(const ClassWizardSettings& settings, Context& context, 
       m_settings(settings),
       m_context(context),
       m_classes(classes),
-      m_ui(std::make_unique<Ui::ClassWizard>())
+      m_ui(designed<Ui::ClassWizard>(*this)),
+      m_panel({*m_ui->List2, *m_ui->propertyHelp, *m_ui->txthodnota, *m_ui->Command6}, context,
+              settings.browseFilter, [this] {
+                  ClassRecord* record = currentClass();
+                  return record ? &record->Properties : nullptr;
+              })
 {
-    m_ui->setupUi(this);
-    keepRoomForHelp(*m_ui->propertyHelp);
     setObjectName(settings.name);
     setWindowTitle(settings.caption);
     setEditing(false);
-    loadCatalogues();
+    m_panel.loadCatalogue(settings.catalogueFile);
+    loadBaseClasses();
     connectControls();
 }
 
 ClassWizard::~ClassWizard() = default;
 
-void ClassWizard::loadCatalogues()
+void ClassWizard::loadBaseClasses()
 {
-    m_catalogue = loadIfThere(m_context, m_settings.catalogueFile);
-    for (const ListEntry& property : m_catalogue)
-        m_ui->List2->addEntry(shownText(property.text), shownText(property.help));
-
     m_baseClasses = BaseClassList(loadIfThere(m_context, m_settings.baseListFile));
     for (int i = 0; i < m_baseClasses.count(); ++i)
         m_ui->Combo1->addItem(shownText(m_baseClasses.textAt(i)));
@@ -69,13 +69,10 @@ void ClassWizard::connectControls()
     connect(m_ui->cmddel, &QPushButton::clicked, this, &ClassWizard::removeClass);
     connect(m_ui->cmddelall, &QPushButton::clicked, this, &ClassWizard::removeAllClasses);
     connect(m_ui->List1, &CheckList::entryClicked, this, &ClassWizard::showClass);
-    connect(m_ui->List2, &CheckList::entryClicked, this, &ClassWizard::showProperty);
     connect(m_ui->txtname, &QLineEdit::textChanged, this, &ClassWizard::storeName);
-    connect(m_ui->txthodnota, &QLineEdit::textChanged, this, &ClassWizard::storeValue);
     // Choosing the entry that the box shows already changes no index, but is a choice all the same.
     connect(m_ui->Combo1, &QComboBox::activated, this, &ClassWizard::storeBaseClass);
     connect(m_ui->Combo1, &QComboBox::currentIndexChanged, this, &ClassWizard::storeBaseClass);
-    connect(m_ui->Command6, &QPushButton::clicked, this, &ClassWizard::browse);
     connect(m_ui->Command1, &QPushButton::clicked, this, &ClassWizard::writeAndHide);
     connect(m_ui->Command2, &QPushButton::clicked, this, &QWidget::hide);
 }
@@ -83,7 +80,7 @@ void ClassWizard::connectControls()
 void ClassWizard::addClass()
 {
     ClassRecord record;
-    record.Properties.resize(m_catalogue.size());
+    record.Properties.resize(m_panel.catalogue().size());
     m_classes.push_back(std::move(record));
     const std::string label = m_context.text(m_settings.entryText) + ' ' + std::to_string(m_classes.size());
     m_ui->List1->setTicked(m_ui->List1->addEntry(shownText(label)), true);
@@ -110,35 +107,25 @@ void ClassWizard::removeAllClasses()
 
 void ClassWizard::setEditing(bool enabled)
 {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_ui->cmddel, m_ui->cmddelall, m_ui->txtname, m_ui->txthodnota,
-                                         m_ui->Command6, m_ui->Combo1, m_ui->List2})
+    m_panel.setEnabled(enabled);
+    for (QWidget* control : std::initializer_list<QWidget*>{m_ui->cmddel, m_ui->cmddelall, m_ui->txtname,
+                                                            m_ui->Command6, m_ui->Combo1})
         control->setEnabled(enabled);
 }
 
-void ClassWizard::showClass()
+void ClassWizard::showClass(int row)
 {
-    const ClassRecord* record = currentClass();
+    ClassRecord* record = currentClass();
     if (!record)
         return;
+    record->ticked = m_ui->List1->isTicked(row);
     m_ui->txtname->setText(toQt(record->Name));
     const int base = m_baseClasses.find(record->BaseClass);
     if (base >= 0) {
         m_ui->Combo1->setCurrentIndex(base);
         storeBaseClass();
     }
-    m_ui->List2->setTicks(usedProperties(record->Properties));
-}
-
-void ClassWizard::showProperty(int row)
-{
-    const ListEntry& property = m_catalogue[static_cast<std::size_t>(row)];
-    m_ui->Command6->setEnabled(property.kind == fileKind);
-    m_ui->propertyHelp->setText(shownText(property.help));
-    if (PropertySetting* setting = currentSetting()) {
-        setting->Used = m_ui->List2->isTicked(row);
-        m_ui->txthodnota->setText(toQt(setting->Value));
-    }
+    m_panel.showTicks();
 }
 
 void ClassWizard::storeName(const QString& name)
@@ -155,19 +142,6 @@ void ClassWizard::storeBaseClass()
         record->BaseClass = m_baseClasses.textAt(chosen);
 }
 
-void ClassWizard::storeValue(const QString& value)
-{
-    if (PropertySetting* setting = currentSetting())
-        setting->Value = fromQt(value);
-}
-
-void ClassWizard::browse()
-{
-    CommonDialog1.filter = m_settings.browseFilter;
-    if (const auto path = m_context.dialogs.openFile(CommonDialog1))
-        m_ui->txthodnota->setText(toQt(*path));
-}
-
 void ClassWizard::writeAndHide()
 {
     ClassOrder order;
@@ -175,9 +149,8 @@ void ClassWizard::writeAndHide()
     order.blockName = m_settings.blockName;
     order.patchList = m_settings.patchList;
     order.declareBases = m_ui->Check1->isChecked();
-    order.catalogue = m_catalogue;
+    order.catalogue = m_panel.catalogue();
     order.classes = m_classes;
-    order.ticked = m_ui->List1->ticks();
     report("writing the classes", writeClasses(m_context, order));
     hide();
 }
@@ -185,12 +158,6 @@ void ClassWizard::writeAndHide()
 ClassRecord* ClassWizard::currentClass()
 {
     return recordAt(m_classes, m_ui->List1->currentRow());
-}
-
-PropertySetting* ClassWizard::currentSetting()
-{
-    ClassRecord* record = currentClass();
-    return record ? recordAt(record->Properties, m_ui->List2->currentRow()) : nullptr;
 }
 
 } // namespace kitwright

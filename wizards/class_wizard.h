@@ -3,15 +3,13 @@
 
 #pragma once
 
-#include "platform/dialogs.h"
 #include "services/context.h"
 #include "wizards/catalogue.h"
 #include "wizards/class_record.h"
+#include "wizards/property_panel.h"
 #include "wizards/wizard_dialog.h"
 
 #include <memory>
-#include <optional>
-#include <string>
 #include <vector>
 
 namespace Ui {
@@ -50,7 +48,7 @@ public:
     ~ClassWizard() override;
 
 private:
-    void loadCatalogues();
+    void loadBaseClasses();
     void connectControls();
 
     void addClass();
@@ -58,27 +56,20 @@ private:
     void removeAllClasses();
     void setEditing(bool enabled);
 
-    void showClass();
-    void showProperty(int row);
+    void showClass(int row);
     void storeName(const QString& name);
     void storeBaseClass();
-    void storeValue(const QString& value);
-    void browse();
     void writeAndHide();
 
     /// The class that is highlighted, or nullptr.
     ClassRecord* currentClass();
 
-    /// The highlighted class's setting of the highlighted property, or nullptr.
-    PropertySetting* currentSetting();
-
     const ClassWizardSettings& m_settings;
     Context& m_context;
     std::vector<ClassRecord>& m_classes;
-    std::vector<ListEntry> m_catalogue;
     BaseClassList m_baseClasses;
-    FileDialog CommonDialog1; ///< The window's file dialog.
     std::unique_ptr<Ui::ClassWizard> m_ui;
+    PropertyPanel m_panel;
 };
 
 } // namespace kitwright

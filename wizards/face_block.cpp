@@ -23,15 +23,14 @@ std::string written(const ListEntry& property, const std::string& value)
 
 } // namespace
 
-std::string faceBlock(std::span<const ListEntry> catalogue, std::span<const FaceRecord> faces,
-                      const std::vector<bool>& ticked)
+std::string faceBlock(std::span<const ListEntry> catalogue, std::span<const FaceRecord> faces)
 {
     std::string text = "\r\nclass CfgFaces\r\n{\r\n";
-    for (std::size_t i = 0; i < std::min(faces.size(), ticked.size()); ++i) {
-        if (!ticked[i])
+    for (const FaceRecord& face : faces) {
+        if (!face.ticked)
             continue;
-        text.append("   class ").append(faces[i].Name).append("\r\n   {\r\n");
-        const std::vector<PropertySetting>& properties = faces[i].Properties;
+        text.append("   class ").append(face.Name).append("\r\n   {\r\n");
+        const std::vector<PropertySetting>& properties = face.Properties;
         for (std::size_t j = 0; j < std::min(properties.size(), catalogue.size()); ++j) {
             if (properties[j].Used)
                 text += "      " + catalogue[j].text + " = " + written(catalogue[j], properties[j].Value) + ";\r\n";

@@ -16,8 +16,7 @@ namespace kitwright {
 
 /// The block with the ticked faces, each with its ticked properties. Texts (kind 0) and the file names of pictures
 /// (kind 2) are put in double quotes, any other value is written as it stands; nothing is escaped.
-std::string faceBlock(std::span<const ListEntry> catalogue, std::span<const FaceRecord> faces,
-                      const std::vector<bool>& ticked);
+std::string faceBlock(std::span<const ListEntry> catalogue, std::span<const FaceRecord> faces);
 
 /// The pictures that the faces name, each once; ticks do not matter.
 std::vector<FileCopy> facePictures(std::span<const ListEntry> catalogue, std::span<const FaceRecord> faces);

@@ -6,7 +6,6 @@
 #include "platform/qt_text.h"
 #include "platform/shown_text.h"
 #include "ui_face_wizard.h"
-#include "wizards/catalogue.h"
 #include "wizards/face_block.h"
 #include "wizards/window_helpers.h"
 #include "wizards/wizard_commands.h"
@@ -24,12 +23,15 @@ frmfaceaddon::frmfaceaddon(Context& context, std::vector<FaceRecord>& faces, QWi
     : WizardDialog(parent),
       m_context(context),
       m_faces(faces),
-      m_ui(std::make_unique<Ui::frmfaceaddon>())
+      m_ui(designed<Ui::frmfaceaddon>(*this)),
+      m_panel({*m_ui->seznam2, *m_ui->propertyHelp, *m_ui->Text1, *m_ui->cmdopenimage}, context,
+              "Soubory typu JPG|*.jpg*", [this] {
+                  FaceRecord* face = currentFace();
+                  return face ? &face->Properties : nullptr;
+              })
 {
-    m_ui->setupUi(this);
-    keepRoomForHelp(*m_ui->propertyHelp);
     setEditing(false);
-    loadCatalogue();
+    m_panel.loadCatalogue("/Bfdata/kitwright/Kitwrightface.dat");
     connectControls();
 }
 
@@ -44,23 +46,15 @@ void frmfaceaddon::showEvent(QShowEvent* event)
     m_ui->txtnazev->setAccessibleName(name);
 }
 
-void frmfaceaddon::loadCatalogue()
-{
-    m_catalogue = loadIfThere(m_context, "/Bfdata/kitwright/Kitwrightface.dat");
-    for (const ListEntry& property : m_catalogue)
-        m_ui->seznam2->addEntry(shownText(property.text), shownText(property.help));
-}
-
 void frmfaceaddon::connectControls()
 {
     connect(m_ui->Command1, &QPushButton::clicked, this, &frmfaceaddon::addFace);
     connect(m_ui->cmddel, &QPushButton::clicked, this, &frmfaceaddon::removeFace);
     connect(m_ui->cmddelall, &QPushButton::clicked, this, &frmfaceaddon::removeAllFaces);
     connect(m_ui->seznam1, &CheckList::entryClicked, this, &frmfaceaddon::showFace);
-    connect(m_ui->seznam2, &CheckList::entryClicked, this, &frmfaceaddon::showProperty);
     connect(m_ui->txtnazev, &QLineEdit::textChanged, this, &frmfaceaddon::storeName);
-    connect(m_ui->Text1, &QLineEdit::textChanged, this, &frmfaceaddon::storeValue);
-    connect(m_ui->cmdopenimage, &QPushButton::clicked, this, &frmfaceaddon::browse);
+    connect(&m_panel, &PropertyPanel::propertyShown, this, &frmfaceaddon::showValuePicture);
+    connect(&m_panel, &PropertyPanel::fileChosen, this, &frmfaceaddon::showPicture);
     connect(m_ui->cmdok, &QPushButton::clicked, this, &frmfaceaddon::writeAndHide);
     connect(m_ui->cmdstorno, &QPushButton::clicked, this, &QWidget::hide);
 }
@@ -69,7 +63,7 @@ void frmfaceaddon::addFace()
 {
     const std::string number = std::to_string(m_faces.size() + 1);
     FaceRecord face;
-    face.Properties.resize(m_catalogue.size());
+    face.Properties.resize(m_panel.catalogue().size());
     face.Name = "Face " + number;
     m_faces.push_back(std::move(face));
     const int row = m_ui->seznam1->addEntry(shownText(m_context.text(faceEntryText) + ' ' + number));
@@ -101,58 +95,30 @@ void frmfaceaddon::removeAllFaces()
 
 void frmfaceaddon::setEditing(bool enabled)
 {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_ui->cmddel, m_ui->cmddelall, m_ui->seznam2, m_ui->txtnazev, m_ui->Text1})
+    m_panel.setEnabled(enabled);
+    for (QWidget* control : std::initializer_list<QWidget*>{m_ui->cmddel, m_ui->cmddelall, m_ui->txtnazev})
         control->setEnabled(enabled);
 }
 
-void frmfaceaddon::showFace()
+void frmfaceaddon::showFace(int row)
 {
-    const FaceRecord* face = currentFace();
+    FaceRecord* face = currentFace();
     if (!face)
         return;
+    face->ticked = m_ui->seznam1->isTicked(row);
     if (!face->Name.empty())
         m_ui->txtnazev->setText(toQt(face->Name));
-    m_ui->seznam2->setTicks(usedProperties(face->Properties));
+    m_panel.showTicks();
     m_ui->seznam2->choose(0);
 }
 
-void frmfaceaddon::showProperty(int row)
+void frmfaceaddon::showValuePicture()
 {
-    const ListEntry& property = m_catalogue[static_cast<std::size_t>(row)];
-    m_ui->propertyHelp->setText(shownText(property.help));
-    if (PropertySetting* setting = currentSetting()) {
-        setting->Used = m_ui->seznam2->isTicked(row);
-        m_ui->Text1->setText(toQt(setting->Value));
-    }
-    m_ui->cmdopenimage->setEnabled(property.kind == fileKind);
     const std::string value = fromQt(m_ui->Text1->text());
     if (namesPicture(value))
         showPicture(value);
     else
         m_ui->Image1->clearPicture();
-}
-
-void frmfaceaddon::storeName(const QString& name)
-{
-    if (FaceRecord* face = currentFace())
-        face->Name = fromQt(name);
-}
-
-void frmfaceaddon::storeValue(const QString& value)
-{
-    if (PropertySetting* setting = currentSetting())
-        setting->Value = fromQt(value);
-}
-
-void frmfaceaddon::browse()
-{
-    CommonDialog1.filter = "Soubory typu JPG|*.jpg*";
-    const auto path = m_context.dialogs.openFile(CommonDialog1);
-    if (!path)
-        return;
-    m_ui->Text1->setText(toQt(*path));
-    showPicture(*path);
 }
 
 void frmfaceaddon::showPicture(const std::string& path)
@@ -164,13 +130,18 @@ void frmfaceaddon::showPicture(const std::string& path)
         report(lcWizards(), "showing a picture", path + ": no JPG picture of a usable size");
 }
 
+void frmfaceaddon::storeName(const QString& name)
+{
+    if (FaceRecord* face = currentFace())
+        face->Name = fromQt(name);
+}
+
 void frmfaceaddon::writeAndHide()
 {
     FaceOrder order;
     order.target = m_ui->Option1->isChecked() ? AddonTarget::NewAddon : AddonTarget::CurrentAddon;
-    order.catalogue = m_catalogue;
+    order.catalogue = m_panel.catalogue();
     order.faces = m_faces;
-    order.ticked = m_ui->seznam1->ticks();
     report("copying pictures", writeFaces(m_context, order));
     removeAllFaces();
     hide();
@@ -179,12 +150,6 @@ void frmfaceaddon::writeAndHide()
 FaceRecord* frmfaceaddon::currentFace()
 {
     return recordAt(m_faces, m_ui->seznam1->currentRow());
-}
-
-PropertySetting* frmfaceaddon::currentSetting()
-{
-    FaceRecord* face = currentFace();
-    return face ? recordAt(face->Properties, m_ui->seznam2->currentRow()) : nullptr;
 }
 
 } // namespace kitwright

@@ -3,10 +3,9 @@
 
 #pragma once
 
-#include "platform/dialogs.h"
 #include "services/context.h"
-#include "text/list_file.h"
 #include "wizards/class_record.h"
+#include "wizards/property_panel.h"
 #include "wizards/wizard_dialog.h"
 
 #include <memory>
@@ -33,7 +32,6 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    void loadCatalogue();
     void connectControls();
 
     void addFace();
@@ -41,25 +39,19 @@ private:
     void removeAllFaces();
     void setEditing(bool enabled);
 
-    void showFace();
-    void showProperty(int row);
-    void storeName(const QString& name);
-    void storeValue(const QString& value);
-    void browse();
+    void showFace(int row);
+    void showValuePicture();
     void showPicture(const std::string& path);
+    void storeName(const QString& name);
     void writeAndHide();
 
     /// The face that is highlighted, or nullptr.
     FaceRecord* currentFace();
 
-    /// The highlighted face's setting of the highlighted property, or nullptr.
-    PropertySetting* currentSetting();
-
     Context& m_context;
     std::vector<FaceRecord>& m_faces;
-    std::vector<ListEntry> m_catalogue;
-    FileDialog CommonDialog1; ///< The window's file dialog.
     std::unique_ptr<Ui::frmfaceaddon> m_ui;
+    PropertyPanel m_panel;
 };
 
 } // namespace kitwright

@@ -27,8 +27,9 @@ private:
         const TreeNode& node = m_input.tree.nodes()[index];
         const int level = nodeLevel(node.key);
         closeDownTo(level);
+        const std::size_t position = index + 1;
         const bool isRoot = index == 0;
-        if (isRoot || index >= m_input.ticked.size() || !m_input.ticked[index])
+        if (isRoot || position >= m_input.properties.size() || !m_input.properties[position].ticked)
             return;
         indent(level);
         if (node.hasChildren && level >= 1) {
@@ -37,7 +38,7 @@ private:
             m_text += "{\r\n";
             m_open.push_back(level);
         } else {
-            m_text.append(node.text).append(" = ").append(valueOf(index)).append(";\r\n");
+            m_text.append(node.text).append(" = ").append(m_input.properties[position].Value).append(";\r\n");
         }
     }
 
@@ -51,13 +52,6 @@ private:
     }
 
     void indent(int level) { m_text.append(static_cast<std::size_t>(level) * 3 + 3, ' '); }
-
-    std::string_view valueOf(std::size_t index) const
-    {
-        const std::size_t position = index + 1;
-        return position < m_input.properties.size() ? std::string_view(m_input.properties[position].Value)
-                                                    : std::string_view();
-    }
 
     const VehicleBlockInput& m_input;
     std::string& m_text;

@@ -19,8 +19,7 @@ struct VehicleBlockInput {
     std::string_view baseClass;
     std::string_view declarations; ///< Of the base class; stands in front of the vehicle's class.
     const KeywordTree& tree;
-    std::vector<bool> ticked;                    ///< For each node, from 0.
-    std::span<const VehicleProperty> properties; ///< For each node, from 1; a node without one has no value.
+    std::span<const VehicleProperty> properties; ///< For each node, from 1; a node without one is not written.
 };
 
 /// The block with the vehicle's class. A ticked node with children becomes a nested class, any other ticked node a

@@ -82,6 +82,8 @@ void frmvehikl::connectControls()
     connect(m_ui->vlastnosti, &QTreeWidget::currentItemChanged, this,
             [this](QTreeWidgetItem* node) { reachNode(node); });
     connect(m_ui->vlastnosti, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* node) {
+        if (VehicleProperty* property = propertyOf(node))
+            property->ticked = node->checkState(0) == Qt::Checked;
         if (m_tickingParent)
             return;
         if (node == m_ui->vlastnosti->currentItem())
@@ -145,8 +147,8 @@ void frmvehikl::browse()
 
 void frmvehikl::clearAll()
 {
-    if (!m_properties.empty())
-        NadeklarujPole();
+    for (VehicleProperty& property : m_properties)
+        property = {.ParentCaption = {}, .Value = {}, .ticked = property.ticked};
 }
 
 void frmvehikl::writeAndHide()
@@ -154,12 +156,9 @@ void frmvehikl::writeAndHide()
     VehicleOrder order{.name = fromQt(m_ui->txtjmeno->text()),
                        .baseClass = chosenBase(),
                        .tree = m_tree,
-                       .ticked = {},
                        .properties = m_properties};
     order.target = m_ui->Option1->isChecked() ? AddonTarget::NewAddon : AddonTarget::CurrentAddon;
     order.declareBase = m_ui->Check1->isChecked();
-    for (const QTreeWidgetItem* node : m_nodes)
-        order.ticked.push_back(node->checkState(0) == Qt::Checked);
     report("writing the vehicle", writeVehicle(m_context, order));
     hide();
 }

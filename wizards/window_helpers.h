@@ -6,6 +6,7 @@
 #include "platform/report.h"
 #include "wizards/wizard_commands.h"
 
+#include <memory>
 #include <vector>
 
 class QLabel;
@@ -26,6 +27,15 @@ template <class Record>
 Record* recordAt(std::vector<Record>& records, int row)
 {
     return row >= 0 && row < static_cast<int>(records.size()) ? &records[static_cast<std::size_t>(row)] : nullptr;
+}
+
+/// Makes the controls of a window's design in the window.
+template <class Design, class Window>
+std::unique_ptr<Design> designed(Window& window)
+{
+    auto design = std::make_unique<Design>();
+    design->setupUi(&window);
+    return design;
 }
 
 /// Gives a label the room of two lines, so that the help it shows does not move the controls around it.

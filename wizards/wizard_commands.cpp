@@ -96,7 +96,6 @@ ClassBlock blockOf(Context& context, const ClassOrder& order)
     input.blockName = order.blockName;
     input.catalogue = order.catalogue;
     input.classes = order.classes;
-    input.ticked = order.ticked;
     input.PatchClassName = context.state.PatchClassName;
     input.fileExists = [&context](const std::string& path) { return context.files.fileExists(path); };
     if (order.declareBases)
@@ -116,7 +115,7 @@ Failures writeClasses(Context& context, const ClassOrder& order)
         if (order.target == AddonTarget::NewAddon)
             startNewAddon(context);
         if (!order.patchList.empty())
-            registerClasses(context, order.patchList, tickedNames(order.classes, order.ticked));
+            registerClasses(context, order.patchList, tickedNames(order.classes));
         askPatchClassNameIfNone(context);
         ClassBlock block = blockOf(context, order);
         append(context, std::move(block.text));
@@ -139,8 +138,7 @@ Failures writeVehicle(Context& context, const VehicleOrder& order)
     registerClasses(context, "UNITS[]", {order.name});
     const std::string declarations =
         order.declareBase ? baseClassBlock(context.host->classes(), order.baseClass) : std::string();
-    append(context,
-           vehicleBlock({order.name, order.baseClass, declarations, order.tree, order.ticked, order.properties}));
+    append(context, vehicleBlock({order.name, order.baseClass, declarations, order.tree, order.properties}));
     return {};
 }
 
@@ -169,7 +167,7 @@ Failures writeFaces(Context& context, const FaceOrder& order)
             askPatchClassName(context);
             context.host->VlozText(context.state.PatchClassName);
         }
-        append(context, faceBlock(order.catalogue, order.faces, order.ticked));
+        append(context, faceBlock(order.catalogue, order.faces));
     }
     saveUntilThereIsAPath(context);
     return CopyFaceFiles(context.files, context.state.CurrentFile, order.catalogue, order.faces);

@@ -31,7 +31,6 @@ struct ClassOrder {
     bool declareBases = false;  ///< Each class is preceded by the declarations of its base class.
     std::span<const ListEntry> catalogue;
     std::span<const ClassRecord> classes;
-    std::vector<bool> ticked;
 };
 
 /// Registers the ticked classes, appends their block to the document and copies the files that they name. A document
@@ -39,14 +38,13 @@ struct ClassOrder {
 /// once the open document has been saved.
 Failures writeClasses(Context& context, const ClassOrder& order);
 
-/// An OK of the vehicle wizard; see `VehicleBlockInput` for the ticks and properties.
+/// An OK of the vehicle wizard; see `VehicleBlockInput` for the properties.
 struct VehicleOrder {
     AddonTarget target = AddonTarget::CurrentAddon;
     std::string name;
     std::string baseClass;
     bool declareBase = false;
     const KeywordTree& tree;
-    std::vector<bool> ticked;
     std::span<const VehicleProperty> properties;
 };
 
@@ -66,7 +64,6 @@ struct FaceOrder {
     AddonTarget target = AddonTarget::CurrentAddon;
     std::span<const ListEntry> catalogue;
     std::span<const FaceRecord> faces;
-    std::vector<bool> ticked;
 };
 
 /// Appends the block of the ticked faces to the document, sees to it that the document has a path, and copies the
