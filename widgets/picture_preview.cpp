@@ -6,8 +6,6 @@
 #include <QBuffer>
 #include <QImageReader>
 
-#include <functional>
-
 namespace kitwright {
 
 namespace {
@@ -28,9 +26,6 @@ PicturePreview::PicturePreview(QWidget* parent) : QLabel(parent)
 
 bool PicturePreview::showPicture(std::string_view bytes)
 {
-    const std::size_t hash = std::hash<std::string_view>()(bytes);
-    if (!m_picture.isNull() && hash == m_bytesHash)
-        return true;
     QByteArray encoded = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer(&encoded);
     buffer.open(QIODevice::ReadOnly);
@@ -45,7 +40,6 @@ bool PicturePreview::showPicture(std::string_view bytes)
     if (picture.isNull())
         return false;
     m_picture = picture;
-    m_bytesHash = hash;
     fitPicture();
     return true;
 }

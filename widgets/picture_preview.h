@@ -6,7 +6,6 @@
 #include <QImage>
 #include <QLabel>
 
-#include <cstddef>
 #include <string_view>
 
 namespace kitwright {
@@ -31,8 +30,7 @@ protected:
 private:
     void fitPicture();
 
-    QImage m_picture;            ///< No larger than a screen needs it.
-    std::size_t m_bytesHash = 0; ///< Of the file that holds it, so that showing it again costs nothing.
+    QImage m_picture; ///< No larger than a screen needs it.
 };
 
 } // namespace kitwright

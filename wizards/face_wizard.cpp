@@ -25,10 +25,12 @@ frmfaceaddon::frmfaceaddon(Context& context, std::vector<FaceRecord>& faces, QWi
       m_faces(faces),
       m_ui(designed<Ui::frmfaceaddon>(*this)),
       m_panel({*m_ui->seznam2, *m_ui->propertyHelp, *m_ui->Text1, *m_ui->cmdopenimage}, context,
-              "Soubory typu JPG|*.jpg*", [this] {
+              "Soubory typu JPG|*.jpg*",
+              [this] {
                   FaceRecord* face = currentFace();
                   return face ? &face->Properties : nullptr;
-              })
+              }),
+      m_picture(*m_ui->Image1, context.files)
 {
     setEditing(false);
     m_panel.loadCatalogue("/Bfdata/kitwright/Kitwrightface.dat");
@@ -53,8 +55,8 @@ void frmfaceaddon::connectControls()
     connect(m_ui->cmddelall, &QPushButton::clicked, this, &frmfaceaddon::removeAllFaces);
     connect(m_ui->seznam1, &CheckList::entryClicked, this, &frmfaceaddon::showFace);
     connect(m_ui->txtnazev, &QLineEdit::textChanged, this, &frmfaceaddon::storeName);
-    connect(&m_panel, &PropertyPanel::propertyShown, this, &frmfaceaddon::showValuePicture);
-    connect(&m_panel, &PropertyPanel::fileChosen, this, &frmfaceaddon::showPicture);
+    connect(&m_panel, &PropertyPanel::propertyShown, this, &frmfaceaddon::showPicture);
+    connect(&m_panel, &PropertyPanel::fileChosen, &m_picture, &PictureLoader::load);
     connect(m_ui->cmdok, &QPushButton::clicked, this, &frmfaceaddon::writeAndHide);
     connect(m_ui->cmdstorno, &QPushButton::clicked, this, &QWidget::hide);
 }
@@ -112,22 +114,13 @@ void frmfaceaddon::showFace(int row)
     m_ui->seznam2->choose(0);
 }
 
-void frmfaceaddon::showValuePicture()
+void frmfaceaddon::showPicture()
 {
     const std::string value = fromQt(m_ui->Text1->text());
     if (namesPicture(value))
-        showPicture(value);
+        m_picture.show(value);
     else
-        m_ui->Image1->clearPicture();
-}
-
-void frmfaceaddon::showPicture(const std::string& path)
-{
-    const Outcome<std::string> bytes = m_context.files.readBytes(path);
-    if (!bytes)
-        report(lcWizards(), "showing a picture", bytes.reason());
-    else if (!m_ui->Image1->showPicture(*bytes))
-        report(lcWizards(), "showing a picture", path + ": no JPG picture of a usable size");
+        m_picture.clear();
 }
 
 void frmfaceaddon::storeName(const QString& name)

@@ -5,11 +5,11 @@
 
 #include "services/context.h"
 #include "wizards/class_record.h"
+#include "wizards/picture_loader.h"
 #include "wizards/property_panel.h"
 #include "wizards/wizard_dialog.h"
 
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace Ui {
@@ -40,8 +40,7 @@ private:
     void setEditing(bool enabled);
 
     void showFace(int row);
-    void showValuePicture();
-    void showPicture(const std::string& path);
+    void showPicture();
     void storeName(const QString& name);
     void writeAndHide();
 
@@ -52,6 +51,7 @@ private:
     std::vector<FaceRecord>& m_faces;
     std::unique_ptr<Ui::frmfaceaddon> m_ui;
     PropertyPanel m_panel;
+    PictureLoader m_picture;
 };
 
 } // namespace kitwright
