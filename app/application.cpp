@@ -23,6 +23,8 @@
 
 #include <QCoreApplication>
 
+#include <vector>
+
 /// The icons lie in a static library, whose resources are only there once they are asked for.
 static void initIcons()
 {
@@ -121,7 +123,6 @@ void Application::loadSettings()
         if (failure)
             m_insteadOfUnread = settings;
         findLanguage();
-        // Without a chosen language the designer's captions stand.
         if (!settings.LanguageFile.empty())
             applyLanguage(settings.LanguageFile);
         return;
@@ -155,8 +156,12 @@ void Application::loadVehicles()
 
 void Application::applyLanguage(const std::string& path)
 {
-    ApplyLanguage(
-        m_context, [this](std::string_view name) { return window(name); }, path);
+    std::vector<QWidget*> windows = {&m_main};
+    for (const auto& [name, dialog] : m_windows) {
+        if (dialog)
+            windows.push_back(dialog);
+    }
+    ApplyLanguage(m_context, path, windows);
 }
 
 QWidget* Application::window(std::string_view name)
@@ -166,8 +171,12 @@ QWidget* Application::window(std::string_view name)
     if (const auto known = m_windows.find(name); known != m_windows.end() && known->second)
         return known->second;
     QDialog* made = make(name);
-    if (made)
-        m_windows[std::string(name)] = made;
+    if (!made)
+        return nullptr;
+    m_windows[std::string(name)] = made;
+    // Without a chosen language the designer's captions stand.
+    if (!m_context.state.Settings.LanguageFile.empty())
+        showCaptions(*made, m_context);
     return made;
 }
 

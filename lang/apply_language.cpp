@@ -55,13 +55,11 @@ bool setCaption(QObject* control, const QString& text)
     return true;
 }
 
-bool showCaption(QWidget* window, const Caption& caption, const QString& text)
+bool showCaption(QWidget& window, const Caption& caption, const QString& text)
 {
-    if (!window)
-        return false;
     if (!caption.control.empty())
-        return setCaption(controlOf(*window, toQt(caption.control)), text);
-    window->setWindowTitle(text);
+        return setCaption(controlOf(window, toQt(caption.control)), text);
+    window.setWindowTitle(text);
     return true;
 }
 
@@ -79,14 +77,20 @@ void readLanguage(Context& context, const std::string& path)
 
 } // namespace
 
-void ApplyLanguage(Context& context, const WindowByName& windows, const std::string& path)
+void showCaptions(QWidget& window, const Context& context)
+{
+    const std::string name = fromQt(window.objectName());
+    for (const Caption& caption : captionTable()) {
+        if (caption.window == name && !showCaption(window, caption, shownText(context.text(caption.text))))
+            report(lcLanguage(), "setting captions", name + '.' + std::string(caption.control) + " is missing");
+    }
+}
+
+void ApplyLanguage(Context& context, const std::string& path, std::span<QWidget* const> windows)
 {
     readLanguage(context, path);
-    for (const Caption& caption : captionTable()) {
-        if (!showCaption(windows(caption.window), caption, shownText(context.text(caption.text))))
-            report(lcLanguage(), "setting captions",
-                   std::string(caption.window) + '.' + std::string(caption.control) + " is missing");
-    }
+    for (QWidget* window : windows)
+        showCaptions(*window, context);
 }
 
 } // namespace kitwright

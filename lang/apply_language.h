@@ -5,19 +5,20 @@
 
 #include "services/context.h"
 
-#include <functional>
+#include <span>
 #include <string>
-#include <string_view>
 
 class QWidget;
 
 namespace kitwright {
 
-/// A window by its given name, created when nothing has touched it yet; null when there is none of that name.
-using WindowByName = std::function<QWidget*(std::string_view)>;
+/// Shows the texts of the text table in those captions of a window that follow the language; the window is known by
+/// its object name. A control that is not there is reported.
+void showCaptions(QWidget& window, const Context& context);
 
-/// Takes the texts of the language file at `path` into the text table and shows them in every caption that follows
-/// the language. When the file cannot be read, the captions are set from the texts as they stand.
-void ApplyLanguage(Context& context, const WindowByName& windows, const std::string& path);
+/// Takes the texts of the language file at `path` into the text table and shows them in the captions of the windows.
+/// When the file cannot be read, the captions are set from the texts as they stand. A window that is made later gets
+/// its captions by `showCaptions`.
+void ApplyLanguage(Context& context, const std::string& path, std::span<QWidget* const> windows);
 
 } // namespace kitwright
