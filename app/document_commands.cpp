@@ -54,7 +54,7 @@ void DocumentCommands::open()
     const auto path = m_context.dialogs.openFile(CommonDialog1);
     if (path && !path->empty() && NactiConfig(*path, m_context.host->configedit())) {
         m_context.state.CurrentFile = *path;
-        m_setCaption(m_context.text(0) + " - " + *path);
+        m_setCaption(m_context.text(UiText::MainWindowTitle) + " - " + *path);
         ReadPatchClassName(m_context.host->configedit().text(), m_context.state.PatchClassName);
         m_context.report("reading the stringtable", m_strings.open(*path));
         m_context.host->Uprav2();
@@ -78,7 +78,7 @@ bool DocumentCommands::askForFile()
 {
     CommonDialog1.filter = configFilter;
     CommonDialog1.fileName = "config.cpp";
-    CommonDialog1.title = m_context.text(65);
+    CommonDialog1.title = m_context.text(UiText::SaveAddonTitle);
     const auto path = m_context.dialogs.saveFile(CommonDialog1);
     if (!path || path->empty())
         return false;
@@ -87,8 +87,9 @@ bool DocumentCommands::askForFile()
     const std::string name = FileNameOf(*path);
     if (upperCased(name) == "CONFIG.CPP")
         return true;
-    const std::string question =
-        m_context.text(66) + "\r\n" + m_context.text(67) + name + "\r\n" + m_context.text(68);
+    const std::string question = m_context.text(UiText::RenameReason) + "\r\n"
+                               + m_context.text(UiText::RenameChosenName) + name + "\r\n"
+                               + m_context.text(UiText::RenameQuestion);
     if (m_context.dialogs.askYesNo(question))
         m_context.state.CurrentFile = FolderOf(*path) + "Config.cpp";
     return true;
@@ -99,7 +100,7 @@ void DocumentCommands::saveAs()
     m_context.state.CurrentFile.clear();
     CommonDialog1.filter = configAndAllFilter;
     CommonDialog1.fileName = "config.cpp";
-    CommonDialog1.title = m_context.text(60);
+    CommonDialog1.title = m_context.text(UiText::SaveAsTitle);
     const auto path = m_context.dialogs.saveFile(CommonDialog1);
     if (!path || path->empty())
         return;
@@ -110,7 +111,7 @@ void DocumentCommands::saveAs()
 void DocumentCommands::makePbo()
 {
     if (m_context.state.CurrentFile.empty()) {
-        m_context.dialogs.showMessage(m_context.text(61));
+        m_context.dialogs.showMessage(m_context.text(UiText::SaveBeforePacking));
         return;
     }
     if (m_context.state.PatchClassName.empty())
@@ -130,7 +131,7 @@ Failure DocumentCommands::startPacker()
 
 void DocumentCommands::VlozText(const std::string& Jmeno)
 {
-    const std::string version = m_context.dialogs.askText(m_context.text(69));
+    const std::string version = m_context.dialogs.askText(m_context.text(UiText::AskRequiredVersion));
     m_context.host->configedit().setText(startingText(Jmeno, version));
     m_context.host->Uprav2();
 }
@@ -162,7 +163,7 @@ bool DocumentCommands::UlozConfig(const std::string& Cesta)
 
 void DocumentCommands::askForPatchClassName()
 {
-    m_context.state.PatchClassName = m_context.dialogs.askText(m_context.text(59));
+    m_context.state.PatchClassName = m_context.dialogs.askText(m_context.text(UiText::AskPatchClassName));
 }
 
 std::string packerArgument(const SharedState& state)

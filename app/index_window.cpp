@@ -12,6 +12,23 @@
 
 namespace kitwright {
 
+namespace {
+
+UiText kindText(KeywordClass keywordClass)
+{
+    switch (keywordClass) {
+    case KeywordClass::ConfigCommand:
+        return UiText::KindConfigCommand;
+    case KeywordClass::CLanguageWord:
+        return UiText::KindCKeyword;
+    case KeywordClass::ClassName:
+        break;
+    }
+    return UiText::KindClassName;
+}
+
+} // namespace
+
 frmrejstrik2::frmrejstrik2(Context& context, const KeywordList& keywords, QWidget* parent)
     : QDialog(parent),
       m_context(context),
@@ -65,10 +82,7 @@ void frmrejstrik2::showClass(int row)
 {
     if (row < 0 || row >= m_keywords.count())
         return;
-    const auto keywordClass = static_cast<int>(m_keywords.classAt(row));
-    constexpr int firstText = 62;
-    if (keywordClass >= 1 && keywordClass <= 3)
-        m_ui->lbltyp->setText(shownText(m_context.text(static_cast<std::size_t>(firstText + keywordClass - 1))));
+    m_ui->lbltyp->setText(shownText(m_context.text(kindText(m_keywords.classAt(row)))));
 }
 
 } // namespace kitwright

@@ -3,7 +3,8 @@
 
 #pragma once
 
-#include <cstddef>
+#include "services/ui_text.h"
+
 #include <span>
 #include <string_view>
 
@@ -13,7 +14,7 @@ namespace kitwright {
 struct Caption {
     std::string_view window;
     std::string_view control; ///< Empty: the window's own caption.
-    std::size_t text;         ///< Number in the text table.
+    UiText text;
 };
 
 /// Every caption that follows the language, window by window. What is not listed keeps its designer caption.

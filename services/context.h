@@ -32,8 +32,8 @@ struct Context {
     /// The main window; set before any other window is made.
     AddonHost* host = nullptr;
 
-    /// Text N of the chosen language.
-    const std::string& text(std::size_t number) const { return state.TextTable[number]; }
+    /// A text of the chosen language.
+    const std::string& text(UiText text) const { return state.TextTable[static_cast<std::size_t>(text)]; }
 
     /// A path below the program folder; `path` starts with '/'.
     std::string inProgramFolder(std::string_view path) const { return state.programFolder + std::string(path); }

@@ -4,14 +4,11 @@
 #pragma once
 
 #include "services/settings.h"
+#include "services/ui_text.h"
 
-#include <array>
 #include <string>
 
 namespace kitwright {
-
-/// The 76 texts of the user interface; text N is entry N.
-using UiTexts = std::array<std::string, 76>;
 
 /// What every window shares. The wizards' and the stringtable's own arrays live in their rooms.
 struct SharedState {

@@ -24,7 +24,7 @@ struct ClassWizardSettings {
     const char* caption;       ///< Until a language is applied.
     const char* catalogueFile; ///< Below the program folder.
     const char* baseListFile;
-    std::size_t entryText;    ///< Number of the text that a new entry of the class list starts with.
+    UiText entryText;         ///< What a new entry of the class list starts with.
     const char* browseFilter; ///< Of the file dialog.
     const char* patchList;    ///< The list of `CfgPatches` that takes the class names; empty: none does.
     const char* blockName;    ///< Of the class around the classes.

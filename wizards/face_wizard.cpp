@@ -12,13 +12,6 @@
 
 namespace kitwright {
 
-namespace {
-
-constexpr std::size_t nameText = 24;
-constexpr std::size_t faceEntryText = 58;
-
-} // namespace
-
 frmfaceaddon::frmfaceaddon(Context& context, std::vector<FaceRecord>& faces, QWidget* parent)
     : WizardDialog(parent),
       m_context(context),
@@ -43,7 +36,7 @@ void frmfaceaddon::showEvent(QShowEvent* event)
 {
     WizardDialog::showEvent(event);
     // The name box has no label of its own; the word for it is the language's.
-    const QString name = shownText(m_context.text(nameText));
+    const QString name = shownText(m_context.text(UiText::Name));
     m_ui->txtnazev->setPlaceholderText(name);
     m_ui->txtnazev->setAccessibleName(name);
 }
@@ -68,7 +61,7 @@ void frmfaceaddon::addFace()
     face.Properties.resize(m_panel.catalogue().size());
     face.Name = "Face " + number;
     m_faces.push_back(std::move(face));
-    const int row = m_ui->seznam1->addEntry(shownText(m_context.text(faceEntryText) + ' ' + number));
+    const int row = m_ui->seznam1->addEntry(shownText(m_context.text(UiText::NewFace) + ' ' + number));
     setEditing(true);
     m_ui->seznam1->setTicked(row, true);
     m_ui->seznam1->choose(row);

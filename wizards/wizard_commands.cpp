@@ -18,9 +18,6 @@ namespace kitwright {
 
 namespace {
 
-constexpr std::size_t askPatchClassNameText = 59;
-constexpr std::size_t askCopyText = 74;
-
 /// Saves the document until it has a path; the author cannot get round choosing one.
 void saveUntilThereIsAPath(Context& context)
 {
@@ -30,7 +27,7 @@ void saveUntilThereIsAPath(Context& context)
 
 void askPatchClassName(Context& context)
 {
-    context.state.PatchClassName = context.dialogs.askText(context.text(askPatchClassNameText));
+    context.state.PatchClassName = context.dialogs.askText(context.text(UiText::AskPatchClassName));
 }
 
 void askPatchClassNameIfNone(Context& context)
@@ -149,7 +146,7 @@ ModelValue modelValue(Context& context, const std::string& path)
         return {"\"\\data3D\\" + fileName + '"', {}};
 
     Failures failures;
-    if (context.dialogs.askYesNo(context.text(askCopyText))) {
+    if (context.dialogs.askYesNo(context.text(UiText::AskCopyModel))) {
         saveUntilThereIsAPath(context);
         failures = copyIntoAddon(context.files, context.state.CurrentFile, {{path, fileName}});
     }
