@@ -138,7 +138,7 @@ void DocumentCommands::VlozText(const std::string& Jmeno)
 
 /// Sets the editor's text to the content of the file. A file that cannot be read, is in UTF-16, or has an endless line
 /// leaves the editor as it was.
-bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole)
+bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const
 {
     Outcome<std::string> text = m_context.texts.readDocument(Soubor);
     if (!text) {

@@ -38,7 +38,7 @@ public:
     void VlozText(const std::string& Jmeno);
 
 private:
-    bool NactiConfig(const std::string& Soubor, RichTextBox& TextovePole);
+    bool NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const;
     bool UlozConfig(const std::string& Cesta);
     bool askForFile();
     void askForPatchClassName();

@@ -4,7 +4,6 @@
 #include "services/folder_chooser.h"
 
 #include "platform/qt_text.h"
-#include "platform/report.h"
 #include "platform/shown_text.h"
 #include "services/paths.h"
 #include "ui_folder_chooser.h"
@@ -19,8 +18,6 @@
 namespace kitwright {
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcServices, "kitwright.services")
 
 constexpr int pathRole = Qt::UserRole;
 constexpr int levelRole = Qt::UserRole + 1;
@@ -165,7 +162,7 @@ bool Form6::openFolder(const std::string& folder)
 {
     const Outcome<std::vector<std::string>> subfolders = m_context.files.listFolders(folder);
     if (!subfolders) {
-        report(lcServices(), "listing folders", subfolders.reason());
+        m_context.report("listing folders", subfolders.reason());
         return false;
     }
     m_openFolder = folder;
