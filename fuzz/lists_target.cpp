@@ -35,7 +35,7 @@ void checkDeclarations(const KeywordTree& tree, const std::string& name)
     std::string parent;
     const std::string declarations = baseClassDeclarations(tree, name).value_or("");
     for (std::size_t start = 0; start < declarations.size();) {
-        const std::string end = parent.empty() ? " {};\r\n" : ": " + parent + " {};\r\n";
+        const std::string end = start == 0 ? " {};\r\n" : ": " + parent + " {};\r\n";
         const std::size_t behind = declarations.find(end, start);
         require(behind != declarations.npos, "classes are declared behind their parents");
         constexpr std::size_t keyword = std::string_view("   class ").size();

@@ -67,7 +67,7 @@ TEST_F(Control, DropsWhatTheCodePageLacksAndMendsLineEndsHoweverTextComes)
 TEST_F(Control, KeepsTheSelectionOnItsCharactersWhenTheProgramEdits)
 {
     const std::tuple<std::string, Position, Position, std::string, std::string> cases[] = {
-        {"abc|d", 0, 1, "XYZ", "XYZbc|d"}, {"a|bcd", 2, 2, "", "a|b"},     {"ab|cd", 2, 0, "X", "ab|Xcd"},
+        {"abc|d", 0, 1, "XYZ", "XYZbc|d"}, {"a|bcd", 2, 2, "", "a|b"},       {"ab|cd", 2, 0, "X", "ab|Xcd"},
         {"ab|cd", 1, 2, "X", "aX|d"},      {"ž[cd|e", 3, 0, "č", "ž[cčd|e"}, {"[ab|cd", 2, 0, "X", "[ab|Xcd"},
         {"a[bc|d", 0, 2, "", "[c|d"},      {"a|b", 99, 5, "X", "a|bX"}};
     for (const auto& [before, start, length, by, after] : cases) {
