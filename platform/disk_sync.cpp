@@ -5,7 +5,6 @@
 
 #ifdef Q_OS_UNIX
 #include <cerrno>
-
 #include <unistd.h>
 #endif
 

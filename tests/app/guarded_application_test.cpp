@@ -4,6 +4,7 @@
 #include "app/guarded_application.h"
 
 #include <gtest/gtest.h>
+
 #include <new>
 
 namespace kitwright {

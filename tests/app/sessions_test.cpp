@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "support/session.h"
+#include "support/disturbed_session.h"
+#include "support/haste.h"
 
 #include <QDir>
 #include <gtest/gtest.h>
@@ -30,6 +31,25 @@ INSTANTIATE_TEST_SUITE_P(Author, Sessions, ::testing::ValuesIn(sessions()),
 TEST_P(Sessions, GoAsWritten)
 {
     Session().play(GetParam().second);
+}
+
+/// KITWRIGHT_SEED=N plays other events, or those that a failure named once more.
+TEST_P(Sessions, BearHaste)
+{
+    bool isSet = false;
+    const int given = qEnvironmentVariableIntValue("KITWRIGHT_SEED", &isSet);
+    const unsigned seed = isSet ? static_cast<unsigned>(given) : 1;
+    SCOPED_TRACE("KITWRIGHT_SEED=" + std::to_string(seed));
+    constexpr int eventsBetweenSteps = 4;
+    DisturbedSession session;
+    Haste haste(session.app, seed);
+    session.between = [&] {
+        haste.run(eventsBetweenSteps);
+        if (session.app.isRunning())
+            session.expectSoundDocument();
+    };
+    session.act(GetParam().second);
+    session.expectSaving();
 }
 
 } // namespace

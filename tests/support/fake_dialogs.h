@@ -7,6 +7,7 @@
 #include "platform/program_launcher.h"
 
 #include <deque>
+#include <functional>
 #include <map>
 #include <string>
 
@@ -18,6 +19,9 @@ public:
     /// What the next dialogs of a kind are answered: "open" and "save" by a path, "colour" by "#rrggbb", "yes/no" by
     /// "yes" or "no", "text" by a text. "cancel" and an empty queue cancel.
     std::map<std::string, std::deque<std::string>> answers;
+
+    /// What is answered, in the same words, when a queue is empty.
+    std::function<std::string(const std::string& kind)> otherwise = [](const std::string&) { return "cancel"; };
 
     /// All that was asked, told and started, a line each: the kind, and the text, the parts of a file dialog or the
     /// program with its argument; line ends in it as "\r" and "\n".
@@ -62,10 +66,9 @@ private:
     {
         note(kind + ' ' + text);
         std::deque<std::string>& queue = answers[kind];
-        if (queue.empty())
-            return {};
-        const std::string answer = queue.front();
-        queue.pop_front();
+        const std::string answer = queue.empty() ? otherwise(kind) : queue.front();
+        if (!queue.empty())
+            queue.pop_front();
         return answer == "cancel" ? std::nullopt : std::optional(answer);
     }
 };

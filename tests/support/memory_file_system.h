@@ -5,6 +5,7 @@
 
 #include "platform/file_system.h"
 
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -19,11 +20,8 @@ public:
     std::map<std::string, std::string> links; ///< What stands behind a path, when it is a link.
     std::set<std::string> unwritable;         ///< Paths that refuse to be written.
 
-    std::map<std::string, std::set<std::string>>* history = nullptr; ///< Takes all that is written, by path.
-
-    mutable int operations = 0; ///< Readings, writings, copyings and listings so far.
-    mutable std::string failed; ///< What the failing operation was.
-    int failing = 0;            ///< The operation, counted from 1, that fails; 0: none.
+    /// Comes before each operation, with what is to be written, or nullptr; the operation fails when it gives false.
+    std::function<bool(const std::string& path, const std::string_view* written)> before;
 
     bool fileExists(const std::string& path) const override { return files.contains(at(path)); }
 
@@ -36,7 +34,7 @@ public:
 
     Outcome<std::string> readBytes(const std::string& path) const override
     {
-        if (fails("reading " + path))
+        if (fails(at(path)))
             return Outcome<std::string>::failed(path + ": not readable");
         const auto found = files.find(at(path));
         return found == files.end() ? Outcome<std::string>::failed(path + ": no such file") : found->second;
@@ -44,11 +42,9 @@ public:
 
     Failure writeBytes(const std::string& path, std::string_view bytes) override
     {
-        if (fails("writing " + path) || unwritable.contains(at(path)))
+        if (fails(at(path), &bytes) || unwritable.contains(at(path)))
             return path + ": not writable";
         files[at(path)] = std::string(bytes);
-        if (history)
-            (*history)[at(path)].emplace(bytes);
         return {};
     }
 
@@ -69,19 +65,15 @@ public:
     }
 
 private:
-    /// Counts an operation; true for the one that is to fail.
-    bool fails(const std::string& operation) const
+    bool fails(const std::string& path, const std::string_view* written = nullptr) const
     {
-        const bool fault = ++operations == failing;
-        if (fault)
-            failed = operation;
-        return fault;
+        return before && !before(path, written);
     }
 
     /// The names of the files, or of the folders that are not hidden.
     Outcome<std::vector<std::string>> entries(const std::string& folder, bool folders) const
     {
-        if (fails("listing " + folder))
+        if (fails(folder))
             return Outcome<std::vector<std::string>>::failed(folder + ": not readable");
         std::set<std::string> names;
         const std::string prefix = plain(folder + "/");

@@ -14,6 +14,9 @@
 
 namespace kitwright::testing {
 
+/// What the program reported on standard error, oldest first. The tests' main function fills it.
+inline std::vector<std::string> reports;
+
 /// The whole program with the shipped data files, on files in memory and with dialogs that are answered by queues.
 /// Nothing runs until `start`; the files may be arranged before.
 class RunningApplication {
@@ -32,6 +35,7 @@ public:
     /// Starts with default settings and the language of a file.
     void startWith(const std::string& languageFile = {});
 
+    bool isRunning() const { return m_application != nullptr; }
     Application& program() { return *m_application; }
     SharedState& state() { return m_application->context().state; }
     RichTextBox& box() { return m_application->mainWindow().configedit(); }
