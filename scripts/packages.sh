@@ -6,7 +6,7 @@
 {
     build_packages=(g++ cmake ninja-build ccache pkg-config qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev'
         libqscintilla2-qt6-dev libgl1-mesa-dev)
-    test_packages=(libgtest-dev libgmock-dev libbenchmark-dev)
+    test_packages=(libgtest-dev libgmock-dev)
     sanitizer_packages=(clang 'libclang-rt-dev|libclang-rt-14-dev')
     run_packages=(fonts-dejavu-core libqt6svg6 qt6-qpa-plugins)
     format_packages=(git clang-format)
@@ -85,7 +85,6 @@ need_commands_and_libraries() {
         qt6-svg-dev*) has_file cmake/Qt6Svg/Qt6SvgConfig.cmake || missing+=("Qt 6 SVG (Qt6Svg)") ;;
         libqscintilla2-qt6-dev) has_file 'libqscintilla2_qt6.*' || missing+=("QScintilla for Qt 6") ;;
         libgtest-dev) has_file cmake/GTest/GTestConfig.cmake || missing+=("GoogleTest (GTest)") ;;
-        libbenchmark-dev) has_file cmake/benchmark/benchmarkConfig.cmake || missing+=("Google Benchmark") ;;
         esac
     done
     ((${#missing[@]} == 0)) && return
