@@ -3,8 +3,10 @@
 
 #include "app/colouring.h"
 
-#include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
+#include <cstring>
 
 namespace kitwright {
 
@@ -13,62 +15,95 @@ namespace {
 /// Entries of the palette of a full pass.
 enum Paint : char { Plain, ConfigCommand, CLanguageWord, ClassName, Comment };
 
-/// Where a word ends.
-constexpr std::array<bool, 256> isDelimiter = [] {
-    std::array<bool, 256> table{};
-    for (const char character : {' ', '\r', '\n'})
-        table[static_cast<unsigned char>(character)] = true;
-    return table;
-}();
+constexpr std::size_t scanned = 64; ///< Characters that the scan takes at once, a bit each.
+
+/// The characters among the scanned ones that are one of `wanted`. There is no branch for a character: which of them
+/// ends a word no processor can foretell, and each wrong guess costs as much as a dozen characters.
+std::uint64_t bitsOf(std::string_view wanted, const char* characters)
+{
+    std::array<unsigned char, scanned> flags{};
+    for (const char character : wanted) {
+        for (std::size_t i = 0; i < scanned; ++i)
+            flags[i] = static_cast<unsigned char>(flags[i] | (characters[i] == character));
+    }
+    // The product has the flags of eight bytes side by side at its upper end.
+    constexpr std::uint64_t gather =
+        std::endian::native == std::endian::little ? 0x0102040810204080 : 0x8040201008040201;
+    std::uint64_t bits = 0;
+    std::uint64_t eight = 0;
+    for (std::size_t i = 0; i < scanned; i += sizeof eight) {
+        std::memcpy(&eight, flags.data() + i, sizeof eight);
+        bits |= eight * gather >> 56 << i;
+    }
+    return bits;
+}
 
 class Pass {
 public:
-    Pass(std::string_view text, const KeywordList& keywords) : m_text(text), m_keywords(keywords)
+    Pass(std::string_view text, const KeywordList& keywords)
+        : m_text(text),
+          m_keywords(keywords),
+          m_entries(text.size() + painted, Plain)
     {
-        m_entries.resize(text.size(), Plain);
     }
 
     void run()
     {
-        Position wordStart = 0;
-        const Position end = m_text.size();
-        for (Position i = 0; i < end;) {
-            const char character = m_text[i];
-            if (character == '/' && i + 1 < end && m_text[i + 1] == '/') {
-                paint(wordStart, i, StyleMap::keep);
-                i = comment(i);
-                wordStart = i;
-                continue;
-            }
-            if (isDelimiter[static_cast<unsigned char>(character)]) {
-                word(wordStart, i);
-                wordStart = i + 1;
-            }
-            ++i;
-        }
-        paint(wordStart, end, StyleMap::keep);
+        Position start = 0;
+        while (start < m_text.size())
+            start = scan(start);
+        paint(m_wordStart, m_text.size(), StyleMap::keep);
+        m_entries.resize(m_text.size());
     }
 
     std::string takeEntries() { return std::move(m_entries); }
     std::vector<Respelling> takeRespellings() { return std::move(m_respellings); }
 
 private:
-    void paint(Position start, Position end, char entry)
+    /// Goes on from a position; returns the one that it has come to.
+    Position scan(Position start)
     {
-        std::fill(m_entries.begin() + static_cast<std::ptrdiff_t>(start),
-                  m_entries.begin() + static_cast<std::ptrdiff_t>(end), entry);
+        std::array<char, scanned + 1> rest{};
+        const char* characters = m_text.data() + start;
+        if (start + rest.size() > m_text.size()) {
+            m_text.copy(rest.data(), rest.size(), start);
+            characters = rest.data();
+        }
+        std::uint64_t delimiters = bitsOf(" \r\n", characters);
+        const std::uint64_t comments = bitsOf("/", characters) & bitsOf("/", characters + 1);
+        if (comments != 0)
+            delimiters &= (comments & (~comments + 1)) - 1;
+        words(start, delimiters);
+        if (comments == 0)
+            return start + scanned;
+        const Position commentStart = start + static_cast<Position>(std::countr_zero(comments));
+        paint(m_wordStart, commentStart, StyleMap::keep);
+        m_wordStart = comment(commentStart);
+        return m_wordStart;
+    }
+
+    /// Looks up the words that the delimiters behind a position end.
+    void words(Position start, std::uint64_t delimiters)
+    {
+        const bool afterDelimiter = m_wordStart == start;
+        std::uint64_t ends = delimiters & ~(delimiters << 1 | std::uint64_t{afterDelimiter});
+        for (; ends != 0; ends &= ends - 1) {
+            const std::uint64_t before = delimiters & ((ends & (~ends + 1)) - 1);
+            if (before != 0)
+                m_wordStart = start + static_cast<Position>(std::bit_width(before));
+            word(m_wordStart, start + static_cast<Position>(std::countr_zero(ends)));
+        }
+        if (delimiters != 0)
+            m_wordStart = start + static_cast<Position>(std::bit_width(delimiters));
     }
 
     void word(Position start, Position end)
     {
-        if (start == end)
-            return;
-        const std::string_view characters = m_text.substr(start, end - start);
-        const int keyword = m_keywords.find(characters);
+        const auto [keyword, isRespelt] = m_keywords.match(m_text.substr(start, end - start));
         if (keyword < 0)
             return;
-        if (m_keywords.textAt(keyword) != characters)
-            m_respellings.push_back({start, keyword});
+        if (isRespelt)
+            m_respellings.push_back({start, m_keywords.textAt(keyword)});
         const auto keywordClass = static_cast<int>(m_keywords.classAt(keyword));
         const bool hasStyle = keywordClass >= ConfigCommand && keywordClass <= ClassName;
         paint(start, end, hasStyle ? static_cast<char>(keywordClass) : StyleMap::keep);
@@ -83,11 +118,61 @@ private:
         return end;
     }
 
+    /// The next piece to be painted; what lies before it is plain.
+    void paint(Position start, Position end, char entry)
+    {
+        for (Position i = start; i < end; i += painted)
+            std::memset(m_entries.data() + i, entry, painted);
+        // The last step went too far.
+        std::memset(m_entries.data() + end, Plain, painted);
+    }
+
+    /// Characters that are painted at once, whatever their number, since most pieces are shorter.
+    static constexpr Position painted = 16;
+
     std::string_view m_text;
     const KeywordList& m_keywords;
+    Position m_wordStart = 0; ///< Behind the last delimiter or comment.
     std::string m_entries;
     std::vector<Respelling> m_respellings;
 };
+
+/// The next piece to be coloured, of whole lines: so long that text, styles and map stay in the processor's cache. No
+/// word and no comment reaches past the end of a line. `range` gives the text from the piece's start on, at most as
+/// many bytes as it is asked for.
+template <class Range>
+std::string_view nextPiece(const Range& range)
+{
+    for (std::size_t length = 1 << 16;; length *= 2) {
+        const std::string_view text = range(length);
+        if (text.size() < length)
+            return text;
+        if (const std::size_t lineFeed = text.rfind('\n'); lineFeed != std::string_view::npos)
+            return text.substr(0, lineFeed + 1);
+    }
+}
+
+template <class Work>
+void forEachPiece(const RichTextBox& box, const Work& work)
+{
+    for (Position start = 0, length = 0; start < box.length(); start += length) {
+        const std::string_view piece = nextPiece([&](Position most) { return box.range(start, most); });
+        length = piece.size();
+        work(start, piece);
+    }
+}
+
+/// Writes the respellings of a piece; the first of a text open the step that they all belong to.
+void respell(RichTextBox& box, Position pieceStart, std::vector<Respelling> words, std::optional<UndoStep>& step)
+{
+    if (words.empty())
+        return;
+    if (!step)
+        step.emplace(box);
+    for (Respelling& word : words)
+        word.start += pieceStart;
+    box.respell(words);
+}
 
 } // namespace
 
@@ -122,22 +207,39 @@ FullPass colourText(std::string_view text, const KeywordList& keywords, const Ed
     return result;
 }
 
-void respell(RichTextBox& box, Position start, std::string_view spelling)
+void respellBox(RichTextBox& box, const KeywordList& keywords)
 {
-    const TextStyle style = box.styleAt(start);
-    box.replaceRange(start, spelling.size(), spelling);
-    box.styleRange(start, spelling.size(), style);
+    std::optional<UndoStep> step;
+    forEachPiece(box, [&](Position start, std::string_view piece) {
+        respell(box, start, colourText(piece, keywords, {}).respellings, step);
+    });
 }
 
 void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings)
 {
-    const FullPass pass = colourText(box.text(), keywords, settings);
-    if (!pass.respellings.empty()) {
-        const UndoStep step(box);
-        for (const Respelling& respelling : pass.respellings)
-            respell(box, respelling.start, keywords.textAt(respelling.keyword));
+    std::optional<UndoStep> step;
+    forEachPiece(box, [&](Position start, std::string_view piece) {
+        FullPass pass = colourText(piece, keywords, settings);
+        respell(box, start, std::move(pass.respellings), step);
+        box.applyStyles(start, pass.styles);
+    });
+}
+
+void loadColoured(RichTextBox& box, std::string text, const KeywordList& keywords, const EditorSettings& settings)
+{
+    // Edits of the box would cost many times as much as those of the text.
+    std::vector<std::pair<Position, StyleMap>> styles;
+    for (Position start = 0; start < text.size(); start += styles.back().second.entries.size()) {
+        const auto rest = std::string_view(text).substr(start);
+        FullPass pass =
+            colourText(nextPiece([&](Position most) { return rest.substr(0, most); }), keywords, settings);
+        for (const auto& [place, spelling] : pass.respellings)
+            text.replace(start + place, spelling.size(), spelling);
+        styles.emplace_back(start, std::move(pass.styles));
     }
-    box.styleAll(pass.styles);
+    box.loadText(text);
+    for (const auto& [start, map] : styles)
+        box.applyStyles(start, map);
 }
 
 } // namespace kitwright

@@ -18,27 +18,24 @@ std::optional<TextStyle> keywordStyle(KeywordClass keywordClass, const EditorSet
 
 TextStyle commentStyle(const EditorSettings& settings);
 
-/// A keyword that the document spells otherwise than the keyword list; both spellings are equally long.
-struct Respelling {
-    Position start = 0;
-    int keyword = 0; ///< Index in the keyword list.
-};
-
 /// What a full pass makes of a text.
 struct FullPass {
     StyleMap styles;
-    std::vector<Respelling> respellings; ///< In order.
+    std::vector<Respelling> respellings; ///< Of its keywords, in order; they show texts of the keyword list.
 };
 
 /// Styles every word that a space or a line break ends, and every comment. A word that is glued to the front of a
 /// comment or ends the text is not looked up and keeps its style. The blanks between words, which show none, are plain.
 FullPass colourText(std::string_view text, const KeywordList& keywords, const EditorSettings& settings);
 
-/// Writes the word at a position in an equally long spelling; it keeps the style that it has.
-void respell(RichTextBox& box, Position start, std::string_view spelling);
+/// Gives the keywords of a box the spelling of the list, as one undo step; styles, caret and selection stay.
+void respellBox(RichTextBox& box, const KeywordList& keywords);
 
 /// Full pass over a box: styles and respells the whole text. Caret and selection stay; the respellings are one undo
 /// step, styles are none.
 void colourBox(RichTextBox& box, const KeywordList& keywords, const EditorSettings& settings);
+
+/// Has a box take a text that was just opened, with what a full pass makes of it. Nothing of it can be undone.
+void loadColoured(RichTextBox& box, std::string text, const KeywordList& keywords, const EditorSettings& settings);
 
 } // namespace kitwright

@@ -23,12 +23,12 @@ constexpr std::size_t longestLine = 1'000'000;
 
 } // namespace
 
-DocumentCommands::DocumentCommands(Context& context, TableStore& strings, LiveColouring& live,
-                                   SetCaption setCaption)
+DocumentCommands::DocumentCommands(Context& context, TableStore& strings, SetCaption setCaption,
+                                   ShowOpened showOpened)
     : m_context(context),
       m_strings(strings),
-      m_live(live),
-      m_setCaption(std::move(setCaption))
+      m_setCaption(std::move(setCaption)),
+      m_showOpened(std::move(showOpened))
 {
     CommonDialog1.defaultExtension = "cpp";
 }
@@ -48,18 +48,20 @@ void DocumentCommands::newDocument()
 
 void DocumentCommands::open()
 {
-    m_live.ColouringEnabled = false;
     CommonDialog1.filter = configFilter;
     CommonDialog1.fileName = "Config.cpp";
     const auto path = m_context.dialogs.openFile(CommonDialog1);
-    if (path && !path->empty() && NactiConfig(*path, m_context.host->configedit())) {
-        m_context.state.CurrentFile = *path;
-        m_setCaption(m_context.text(UiText::MainWindowTitle) + " - " + *path);
-        ReadPatchClassName(m_context.host->configedit().text(), m_context.state.PatchClassName);
-        m_context.report("reading the stringtable", m_strings.open(*path));
-        m_context.host->Uprav2();
-    }
-    m_live.ColouringEnabled = true;
+    if (!path || path->empty())
+        return;
+    std::optional<std::string> document = NactiConfig(*path);
+    if (!document)
+        return;
+    // As the file spells it, which the colouring may change.
+    ReadPatchClassName(*document, m_context.state.PatchClassName);
+    m_showOpened(std::move(*document));
+    m_context.state.CurrentFile = *path;
+    m_setCaption(m_context.text(UiText::MainWindowTitle) + " - " + *path);
+    m_context.report("reading the stringtable", m_strings.open(*path));
 }
 
 bool DocumentCommands::UlozAddon()
@@ -136,22 +138,20 @@ void DocumentCommands::VlozText(const std::string& Jmeno)
     m_context.host->Uprav2();
 }
 
-/// Sets the editor's text to the content of the file. A file that cannot be read, is in UTF-16, or has an endless line
-/// leaves the editor as it was.
-bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const
+/// The content of a file as the editor takes it. Nothing when it cannot be read, is in UTF-16, or has an endless line.
+std::optional<std::string> DocumentCommands::NactiConfig(const std::string& Soubor) const
 {
     Outcome<std::string> text = m_context.texts.readDocument(Soubor);
     if (!text) {
         m_context.report("opening", text.reason());
-        return false;
+        return {};
     }
-    const std::string document = withCrLf(std::move(*text));
+    std::string document = withCrLf(std::move(*text));
     if (hasLineLongerThan(longestLine, document)) {
         m_context.report("opening", Soubor + ": a line is too long to be edited");
-        return false;
+        return {};
     }
-    TextovePole.loadText(document);
-    return true;
+    return document;
 }
 
 bool DocumentCommands::UlozConfig(const std::string& Cesta)

@@ -3,12 +3,12 @@
 
 #pragma once
 
-#include "app/live_colouring.h"
 #include "platform/dialogs.h"
 #include "services/context.h"
 #include "stringtable/table_store.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 
 namespace kitwright {
@@ -19,8 +19,11 @@ public:
     /// Captions the main window.
     using SetCaption = std::function<void(const std::string& caption)>;
 
-    /// Context, table and colouring must outlive the commands.
-    DocumentCommands(Context& context, TableStore& strings, LiveColouring& live, SetCaption setCaption);
+    /// Takes the text of a document that was just opened into the editor, coloured.
+    using ShowOpened = std::function<void(std::string text)>;
+
+    /// Context and table must outlive the commands.
+    DocumentCommands(Context& context, TableStore& strings, SetCaption setCaption, ShowOpened showOpened);
 
     void newDocument();
     void open();
@@ -38,7 +41,7 @@ public:
     void VlozText(const std::string& Jmeno);
 
 private:
-    bool NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const;
+    std::optional<std::string> NactiConfig(const std::string& Soubor) const;
     bool UlozConfig(const std::string& Cesta);
     bool askForFile();
     void askForPatchClassName();
@@ -46,8 +49,8 @@ private:
 
     Context& m_context;
     TableStore& m_strings;
-    LiveColouring& m_live;
     SetCaption m_setCaption;
+    ShowOpened m_showOpened;
     FileDialog CommonDialog1; ///< Keeps what one use sets, its title above all, until another use changes it.
 };
 

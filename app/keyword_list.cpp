@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <unordered_set>
 
 namespace kitwright {
@@ -20,16 +21,37 @@ constexpr std::array<unsigned char, 256> asciiCapitals = [] {
     return table;
 }();
 
-/// Hash of a word as if it were upper-cased. Bytes beyond ASCII are left out, so that their case need not be known.
+/// The first eight characters, or all when there are fewer, as a number that is the same in any letter case.
+std::uint64_t eightOf(std::string_view characters)
+{
+    constexpr std::uint64_t caseBits = 0x2020202020202020;
+    const std::size_t size = characters.size();
+    std::uint64_t eight = 0;
+    if (size >= sizeof eight) {
+        std::memcpy(&eight, characters.data(), sizeof eight);
+    } else if (std::uint32_t first = 0, last = 0; size >= sizeof first) {
+        std::memcpy(&first, characters.data(), sizeof first);
+        std::memcpy(&last, characters.data() + size - sizeof last, sizeof last);
+        eight = std::uint64_t{last} << 32 | first;
+    } else {
+        for (const char character : characters)
+            eight = eight << 8 | static_cast<unsigned char>(character);
+    }
+    return eight & ~caseBits;
+}
+
+/// Hash of a word in any letter case. Characters beyond ASCII, whose capitals are not so easily had, are left out.
 std::uint32_t hashOf(std::string_view word)
 {
-    std::uint32_t hash = 2166136261U;
-    for (const char character : word) {
-        const unsigned char byte = asciiCapitals[static_cast<unsigned char>(character)];
-        if (byte < 0x80)
-            hash = (hash ^ byte) * 16777619U;
+    constexpr std::uint64_t beyondAscii = 0x8080808080808080;
+    constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15;
+    std::uint64_t hash = word.size();
+    for (std::size_t i = 0; i < word.size(); i += sizeof hash) {
+        const std::uint64_t eight = eightOf(word.substr(i));
+        hash = (hash ^ (eight & beyondAscii ? 0 : eight)) * mixer;
+        hash ^= hash >> 32;
     }
-    return hash ^ hash >> 15;
+    return static_cast<std::uint32_t>(hash);
 }
 
 /// True when a word, upper-cased, is `upper`; both are equally long.
@@ -46,12 +68,6 @@ bool matches(std::string_view word, std::string_view upper)
 }
 
 } // namespace
-
-std::string_view KeywordList::textAt(int index) const
-{
-    return index >= 0 && index < count() ? std::string_view(m_entries[static_cast<std::size_t>(index)].text)
-                                         : std::string_view();
-}
 
 void KeywordList::add(std::string_view text, KeywordClass keywordClass)
 {
@@ -75,17 +91,20 @@ void KeywordList::addLines(std::string_view text, KeywordClass keywordClass)
     sort();
 }
 
-int KeywordList::find(std::string_view word) const
+KeywordList::Match KeywordList::matchInTable(std::string_view word) const
 {
-    if (m_slots.empty() || word.size() > m_longest)
-        return -1;
     const std::size_t mask = m_slots.size() - 1;
-    for (std::size_t slot = hashOf(word) & mask; m_slots[slot] >= 0; slot = (slot + 1) & mask) {
-        const Entry& entry = m_entries[static_cast<std::size_t>(m_slots[slot])];
+    const std::uint32_t hash = hashOf(word);
+    for (std::size_t at = hash & mask; m_slots[at].entry >= 0; at = (at + 1) & mask) {
+        if (m_slots[at].hash != hash)
+            continue;
+        const Entry& entry = m_entries[static_cast<std::size_t>(m_slots[at].entry)];
+        if (entry.text == word)
+            return {m_slots[at].entry, false};
         if (entry.upper.size() == word.size() && matches(word, entry.upper))
-            return m_slots[slot];
+            return {m_slots[at].entry, true};
     }
-    return -1;
+    return {};
 }
 
 void KeywordList::sort()
@@ -95,6 +114,16 @@ void KeywordList::sort()
     index();
 }
 
+void KeywordList::noteLength(std::string_view upper)
+{
+    const std::size_t first = upper.empty() ? 0 : static_cast<unsigned char>(upper.front());
+    for (std::size_t byte = 0; byte < m_lengths.size(); ++byte) {
+        // Letters beyond ASCII may begin with another byte in the other case.
+        if (first < 0x80 ? asciiCapitals[byte] == first : byte >= 0x80)
+            m_lengths[byte] |= lengthBit(upper);
+    }
+}
+
 /// Puts the answer of the binary search for each word into the hash table, so that `find` agrees with it even where
 /// the list holds a word twice.
 void KeywordList::index()
@@ -102,18 +131,19 @@ void KeywordList::index()
     std::size_t size = 16;
     while (size < 2 * m_entries.size())
         size *= 2;
-    m_slots.assign(size, -1);
-    m_longest = 0;
+    m_slots.assign(size, {});
+    m_lengths = {};
     for (std::size_t entry = 0; entry < m_entries.size(); ++entry) {
         const std::string& upper = m_entries[entry].upper;
-        m_longest = std::max(m_longest, upper.size());
+        noteLength(upper);
         if (entry > 0 && m_entries[entry - 1].upper == upper)
             continue;
         const bool twice = entry + 1 < m_entries.size() && m_entries[entry + 1].upper == upper;
-        std::size_t slot = hashOf(upper) & (size - 1);
-        while (m_slots[slot] >= 0)
-            slot = (slot + 1) & (size - 1);
-        m_slots[slot] = twice ? FindExact(0, count() - 1, upper, *this) : static_cast<int>(entry);
+        const std::uint32_t hash = hashOf(upper);
+        std::size_t at = hash & (size - 1);
+        while (m_slots[at].entry >= 0)
+            at = (at + 1) & (size - 1);
+        m_slots[at] = {hash, twice ? FindExact(0, count() - 1, upper, *this) : static_cast<int>(entry)};
     }
 }
 

@@ -6,6 +6,8 @@
 #include "services/searches.h"
 #include "text/text_files.h"
 
+#include <algorithm>
+#include <array>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -24,7 +26,11 @@ enum class KeywordClass : std::int16_t {
 class KeywordList final : public TextList {
 public:
     int count() const override { return static_cast<int>(m_entries.size()); }
-    std::string_view textAt(int index) const override;
+    std::string_view textAt(int index) const override
+    {
+        return index >= 0 && index < count() ? std::string_view(m_entries[static_cast<std::size_t>(index)].text)
+                                             : std::string_view();
+    }
     KeywordClass classAt(int index) const { return m_entries[static_cast<std::size_t>(index)].keywordClass; }
 
     /// Inserts a keyword at its sorted place, whether the list has it already or not.
@@ -33,8 +39,15 @@ public:
     /// Adds the lines of a keyword file that the list does not have yet; lines with "*" are no keywords.
     void addLines(std::string_view text, KeywordClass keywordClass);
 
-    /// The entry that `FindExact` gives for a word, or -1, in a time that does not grow with the list.
-    int find(std::string_view word) const;
+    /// What a word is in the list.
+    struct Match {
+        int index = -1;         ///< The entry that `FindExact` gives; -1 when there is none.
+        bool isRespelt = false; ///< The entry's letter case is another one.
+    };
+
+    /// Looks a word up, in a time that does not grow with the list.
+    Match match(std::string_view word) const { return mayHold(word) ? matchInTable(word) : Match(); }
+    int find(std::string_view word) const { return match(word).index; }
 
 private:
     struct Entry {
@@ -43,12 +56,33 @@ private:
         KeywordClass keywordClass = KeywordClass::ConfigCommand;
     };
 
+    /// The bit for words of a length; the longest share one.
+    static std::uint64_t lengthBit(std::string_view word)
+    {
+        return std::uint64_t{1} << std::min<std::size_t>(word.size(), 63);
+    }
+
+    /// False for most words that are none: no keyword begins with that letter, in any case, and is as long.
+    bool mayHold(std::string_view word) const
+    {
+        const char first = word.empty() ? '\0' : word.front();
+        return (m_lengths[static_cast<unsigned char>(first)] & lengthBit(word)) != 0;
+    }
+
+    Match matchInTable(std::string_view word) const;
     void sort();
     void index();
+    void noteLength(std::string_view upper);
 
     std::vector<Entry> m_entries;
-    std::vector<int> m_slots; ///< Open-addressing hash table of entry indexes; -1 where free, a power of two long.
-    std::size_t m_longest = 0;
+    /// A place of the hash table.
+    struct Slot {
+        std::uint32_t hash = 0;
+        int entry = -1; ///< -1 where free.
+    };
+
+    std::vector<Slot> m_slots;                  ///< Open addressing; a power of two long.
+    std::array<std::uint64_t, 256> m_lengths{}; ///< The lengths of the keywords by first byte, in either case.
 };
 
 /// Adds the words of a keyword file to the list.

@@ -32,8 +32,7 @@ bool LiveColouring::willEditAfter(const PendingEdit& edit)
     std::string word;
     for (Position i = 0; i < step.length; ++i)
         word += text.at(step.start + i);
-    const int keyword = m_keywords.find(word);
-    return keyword >= 0 && m_keywords.textAt(keyword) != word;
+    return m_keywords.match(word).isRespelt;
 }
 
 void LiveColouring::textChanged(ChangeOrigin origin)
@@ -46,15 +45,14 @@ void LiveColouring::textChanged(ChangeOrigin origin)
         m_box.styleRange(step.start, step.length, commentStyle(m_settings));
     } else if (step.kind == LiveStep::Kind::Word && step.length > 0) {
         const std::string_view word = m_box.range(step.start, step.length);
-        const int keyword = m_keywords.find(word);
+        const auto [keyword, isRespelt] = m_keywords.match(word);
         if (keyword < 0) {
             m_box.styleRange(step.start, step.length, TextStyle{});
             return;
         }
         // What undo brings back keeps its spelling: an edit here would cut off the redo history.
-        const std::string_view spelling = m_keywords.textAt(keyword);
-        if (origin == ChangeOrigin::Edit && word != spelling)
-            respell(m_box, step.start, spelling);
+        if (origin == ChangeOrigin::Edit && isRespelt)
+            m_box.respell({{{step.start, m_keywords.textAt(keyword)}}});
         if (const auto style = keywordStyle(m_keywords.classAt(keyword), m_settings))
             m_box.styleRange(step.start, step.length, *style);
     }

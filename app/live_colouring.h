@@ -19,12 +19,20 @@ public:
     LiveColouring(const LiveColouring&) = delete;
     LiveColouring& operator=(const LiveColouring&) = delete;
 
-    /// False until start-up has ended and while the program itself rewrites the document: changes are then ignored.
-    bool ColouringEnabled = false;
+    /// While one of these exists, changes are not answered: until start-up has ended, and while the program itself
+    /// rewrites the document. They may nest.
+    class Pause {
+    public:
+        explicit Pause(LiveColouring& live) : m_live(live) { ++m_live.m_pauses; }
+        ~Pause() { --m_live.m_pauses; }
+        Pause(const Pause&) = delete;
+        Pause& operator=(const Pause&) = delete;
 
-    /// Between the two, changes are ignored whatever `ColouringEnabled` says; pairs may nest.
-    void hold() { ++m_held; }
-    void release() { --m_held; }
+    private:
+        LiveColouring& m_live;
+    };
+
+    bool ColouringEnabled() const { return m_pauses == 0; }
 
     /// Foretells whether the word at the end of the edit will be respelled: right for every edit that leaves the caret
     /// there, as typing does. After any other, a respelling is an undo step of its own.
@@ -36,9 +44,9 @@ private:
     const KeywordList& m_keywords;
     const EditorSettings& m_settings;
 
-    bool isOff() const { return m_settings.KeywordColouringOff || !ColouringEnabled || m_held > 0; }
+    bool isOff() const { return m_settings.KeywordColouringOff || !ColouringEnabled(); }
 
-    int m_held = 0;
+    int m_pauses = 0;
 
     /// The line being typed into is taken to be inside a comment.
     bool InComment = false;

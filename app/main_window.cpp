@@ -13,7 +13,10 @@
 #include "ui_main_window.h"
 
 #include <QCloseEvent>
+#include <QScopeGuard>
 #include <QScreen>
+
+#include <utility>
 
 namespace kitwright {
 
@@ -41,8 +44,11 @@ fmrconfigedit::fmrconfigedit(Context& context, TableStore& strings, const Keywor
       m_ui(setUp(*this)),
       m_box(*m_ui->configedit, context.texts.codePage()),
       m_live(m_box, keywords, context.state.Settings),
-      m_commands(context, strings, m_live, [this](const std::string& caption) { setWindowTitle(toQt(caption)); })
+      m_commands(
+          context, strings, [this](const std::string& caption) { setWindowTitle(toQt(caption)); },
+          [this](std::string text) { showOpened(std::move(text)); })
 {
+    m_startUp.emplace(m_live);
     new BraceMatcher(*m_ui->configedit);
     new LineNumberMargin(*m_ui->configedit);
     new FindBar(*m_ui->configedit);
@@ -139,6 +145,15 @@ void fmrconfigedit::showFitted()
     show();
 }
 
+/// Runs a full pass over a text of so many bytes. Events may run before it begins.
+void fmrconfigedit::fullPass(std::size_t length, const std::function<void()>& colour)
+{
+    const auto over = qScopeGuard([this] { Q_EMIT fullPassEnds(); });
+    Q_EMIT fullPassBegins(length);
+    const LiveColouring::Pause pause(m_live);
+    colour();
+}
+
 void fmrconfigedit::Uprav2()
 {
     if (m_context.state.Settings.KeywordColouringOff)
@@ -147,17 +162,22 @@ void fmrconfigedit::Uprav2()
         m_colouringDue = true;
         return;
     }
-    Q_EMIT fullPassBegins(m_box.length());
-    m_live.hold();
-    colourBox(m_box, m_keywords, m_context.state.Settings);
-    m_live.release();
-    Q_EMIT fullPassEnds();
+    fullPass(m_box.length(), [this] { colourBox(m_box, m_keywords, m_context.state.Settings); });
+}
+
+void fmrconfigedit::showOpened(std::string text)
+{
+    if (m_context.state.Settings.KeywordColouringOff) {
+        m_box.loadText(text);
+        return;
+    }
+    fullPass(text.size(), [&] { loadColoured(m_box, std::move(text), m_keywords, m_context.state.Settings); });
 }
 
 void fmrconfigedit::beginDocumentChange()
 {
     if (m_changes++ == 0) {
-        m_live.hold();
+        m_change.emplace(m_live);
         m_box.beginUndoStep();
     }
 }
@@ -166,11 +186,15 @@ void fmrconfigedit::endDocumentChange()
 {
     if (--m_changes > 0)
         return;
-    if (m_colouringDue)
-        Uprav2();
-    m_colouringDue = false;
+    const bool colouringDue = std::exchange(m_colouringDue, false);
+    // What the colouring respells belongs to the change. Events may run while the colouring itself is announced, so
+    // that it waits until no undo step is open.
+    if (colouringDue)
+        respellBox(m_box, m_keywords);
     m_box.endUndoStep();
-    m_live.release();
+    m_change.reset();
+    if (colouringDue)
+        Uprav2();
 }
 
 void fmrconfigedit::closeEvent(QCloseEvent* event)

@@ -13,8 +13,10 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <optional>
+#include <string>
 
 class QAbstractButton;
 
@@ -35,7 +37,7 @@ public:
     ~fmrconfigedit() override;
 
     /// Switches live colouring on: the last step of start-up.
-    void startColouring() { m_live.ColouringEnabled = true; }
+    void startColouring() { m_startUp.reset(); }
 
     /// Shows the window for the first time, in a size that suits the screen.
     void showFitted();
@@ -75,6 +77,8 @@ private:
     void connectWindows();
     void connectBrowsers();
     void layOut();
+    void showOpened(std::string text);
+    void fullPass(std::size_t length, const std::function<void()>& colour);
 
     Context& m_context;
     const KeywordTree& m_classes;
@@ -85,8 +89,10 @@ private:
     LiveColouring m_live;
     DocumentCommands m_commands;
 
-    int m_changes = 0;           ///< Open document changes.
-    bool m_colouringDue = false; ///< A full pass waits for their end.
+    std::optional<LiveColouring::Pause> m_startUp;
+    std::optional<LiveColouring::Pause> m_change; ///< While document changes are open.
+    int m_changes = 0;                            ///< Open document changes.
+    bool m_colouringDue = false;                  ///< A full pass waits for their end.
 
     std::optional<ProportionalLayout> m_layout;
 };

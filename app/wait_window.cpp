@@ -22,6 +22,9 @@ constexpr int longestWaitForWindow = 200; // ms
 Form2::Form2(QWidget* parent) : QDialog(parent), m_ui(std::make_unique<Ui::Form2>())
 {
     m_ui->setupUi(this);
+    // The author goes on typing into the window behind it.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setWindowFlag(Qt::WindowDoesNotAcceptFocus);
 }
 
 Form2::~Form2() = default;

@@ -13,7 +13,7 @@ class Form2;
 
 namespace kitwright {
 
-/// The wait notice of a full pass.
+/// The wait notice of a full pass. It never takes the keyboard.
 class Form2 final : public QDialog {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ public:
     ~Form2() override;
 
     /// Shows the notice for a pass over a text of so many bytes, painted at once when the pass takes long enough to
-    /// be seen; a shorter one must not flash on the screen.
+    /// be seen; a shorter one must not flash on the screen. Events other than the author's input may run meanwhile.
     void announce(std::size_t textLength);
 
 private:

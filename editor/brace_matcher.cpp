@@ -71,13 +71,18 @@ bool BraceMatcher::takeBraceAt(long position)
 void BraceMatcher::searchOn()
 {
     const long length = m_editor.SendScintilla(Sci::SCI_GETLENGTH);
-    for (long slice = 0; slice < sliceLength; ++slice, m_position += m_step) {
-        if (m_position < 0 || m_position >= length) {
-            mark(-1);
-            return;
-        }
-        const auto character =
-            static_cast<char>(m_editor.SendScintilla(Sci::SCI_GETCHARAT, static_cast<unsigned long>(m_position)));
+    if (m_position >= length) {
+        mark(-1);
+        return;
+    }
+    const long left = m_step > 0 ? length - m_position : m_position + 1;
+    const long slice = std::min(left, sliceLength);
+    const long lowest = m_step > 0 ? m_position : m_position + 1 - slice;
+    // The message gives the pointer as a number. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    const auto* characters = reinterpret_cast<const char*>(
+        m_editor.SendScintilla(Sci::SCI_GETRANGEPOINTER, static_cast<unsigned long>(lowest), slice));
+    for (const long end = m_position + m_step * slice; m_position != end; m_position += m_step) {
+        const char character = characters[m_position - lowest];
         if (character == m_own)
             ++m_depth;
         else if (character == m_partner && --m_depth == 0) {
@@ -85,7 +90,10 @@ void BraceMatcher::searchOn()
             return;
         }
     }
-    m_next.start(0);
+    if (slice < left)
+        m_next.start(0);
+    else
+        mark(-1);
 }
 
 void BraceMatcher::mark(long partner)

@@ -15,10 +15,12 @@ namespace kitwright {
 
 namespace {
 
-QToolButton* arrowButton(QWidget* parent, Qt::ArrowType arrow)
+QToolButton* arrowButton(QWidget* parent, Qt::ArrowType arrow, const QString& name)
 {
     auto* button = new QToolButton(parent);
     button->setArrowType(arrow);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::NoFocus);
     return button;
@@ -32,12 +34,13 @@ FindBar::FindBar(QsciScintilla& editor) : QFrame(&editor), m_editor(editor), m_t
     setFrameShape(QFrame::StyledPanel);
     setAutoFillBackground(true);
     m_text->setObjectName(QStringLiteral("findText"));
+    m_text->setAccessibleName(tr("Find"));
     m_text->setClearButtonEnabled(true);
     constexpr int textWidth = 220;
     m_text->setMinimumWidth(textWidth);
 
-    QToolButton* previous = arrowButton(this, Qt::UpArrow);
-    QToolButton* next = arrowButton(this, Qt::DownArrow);
+    QToolButton* previous = arrowButton(this, Qt::UpArrow, tr("Find previous"));
+    QToolButton* next = arrowButton(this, Qt::DownArrow, tr("Find next"));
     auto* row = new QHBoxLayout(this);
     constexpr int margin = 4;
     row->setContentsMargins(margin, margin, margin, margin);

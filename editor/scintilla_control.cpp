@@ -3,9 +3,11 @@
 
 #include "editor/scintilla_control.h"
 
+#include "editor/edit_protocol.h"
 #include "platform/qt_text.h"
 #include "text/text_files.h"
 
+#include <QAccessibleWidget>
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QInputMethodEvent>
@@ -27,10 +29,27 @@ QFont editorFont()
     return font;
 }
 
+/// Answers for the control before its own factory does, which comes later as that of its base class.
+QAccessibleInterface* plainInterface(const QString& className, QObject* object)
+{
+    const auto* control = className == QLatin1String(ScintillaControl::staticMetaObject.className())
+                            ? qobject_cast<const ScintillaControl*>(object)
+                            : nullptr;
+    return control && !control->isSpoken()
+             ? new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::EditableText)
+             : nullptr;
+}
+
 } // namespace
 
-ScintillaControl::ScintillaControl(QWidget* parent) : QsciScintilla(parent)
+ScintillaControl::ScintillaControl(QWidget* parent)
+    : QsciScintilla(parent),
+      m_edits(std::make_unique<EditProtocol>(*this)),
+      m_spoken(QAccessible::isActive())
 {
+    m_edits->setSpoken(m_spoken);
+    QAccessible::installFactory(plainInterface);
+    QAccessible::installActivationObserver(this);
     setUtf8(true);
     setEolMode(QsciScintilla::EolWindows);
     setFont(editorFont());
@@ -49,19 +68,31 @@ ScintillaControl::ScintillaControl(QWidget* parent) : QsciScintilla(parent)
             [this](int position) { SendScintilla(SCI_STARTSTYLING, static_cast<unsigned long>(position)); });
 }
 
-std::string ScintillaControl::takeExpected(std::size_t size) const
+ScintillaControl::~ScintillaControl()
 {
-    if (m_expected.size() < size)
-        m_expected.clear();
-    const std::string next = m_expected.substr(0, size);
-    m_expected.erase(0, size);
-    return next;
+    QAccessible::removeActivationObserver(this);
+}
+
+void ScintillaControl::accessibilityActiveChanged(bool active)
+{
+    if (active == m_spoken)
+        return;
+    m_spoken = active;
+    m_edits->setSpoken(active);
+    // Whoever asks next gets the other interface.
+    QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(QAccessible::queryAccessibleInterface(this)));
+    if (!active)
+        return;
+    // The new one hears where caret and selection stand when they are set once more, and are painted.
+    QAccessible::queryAccessibleInterface(this);
+    SendScintilla(SCI_SETANCHOR, static_cast<unsigned long>(SendScintilla(SCI_GETANCHOR)));
+    SendScintilla(SCI_SETMAINSELECTION, static_cast<unsigned long>(SendScintilla(SCI_GETMAINSELECTION)));
 }
 
 bool ScintillaControl::event(QEvent* event)
 {
     const bool handled = QsciScintilla::event(event);
-    Q_EMIT eventHandled();
+    m_edits->settle();
     return handled;
 }
 
@@ -70,34 +101,34 @@ void ScintillaControl::keyPressEvent(QKeyEvent* event)
     const bool lineBreak = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const std::string typed = lineBreak ? std::string("\r\n") : fromQt(event->text());
     const std::string kept = keepable(typed);
-    expectText(kept);
+    m_edits->expect(QByteArray::fromStdString(kept));
     if (kept == typed) {
         QsciScintilla::keyPressEvent(event);
     } else if (!kept.empty()) {
         QKeyEvent cut(event->type(), event->key(), event->modifiers(), toQt(kept), event->isAutoRepeat());
         QsciScintilla::keyPressEvent(&cut);
     }
-    expectText({});
+    m_edits->expect({});
 }
 
 void ScintillaControl::inputMethodEvent(QInputMethodEvent* event)
 {
-    m_composing = !event->preeditString().isEmpty();
+    m_edits->setComposing(!event->preeditString().isEmpty());
     const std::string kept = keepable(fromQt(event->commitString()));
-    expectText(kept);
+    m_edits->expect(QByteArray::fromStdString(kept));
     QInputMethodEvent cut(event->preeditString(), event->attributes());
     cut.setCommitString(toQt(kept), event->replacementStart(), event->replacementLength());
     QsciScintilla::inputMethodEvent(&cut);
     event->setAccepted(cut.isAccepted());
-    expectText({});
+    m_edits->expect({});
 }
 
 QByteArray ScintillaControl::fromMimeData(const QMimeData* source, bool& rectangular) const
 {
     const QByteArray bytes = QsciScintilla::fromMimeData(source, rectangular);
-    const std::string kept = withCrLf(keepable(bytes.toStdString()));
-    expectText(kept);
-    return QByteArray::fromStdString(kept);
+    const QByteArray kept = QByteArray::fromStdString(withCrLf(keepable(bytes.toStdString())));
+    m_edits->expect(kept);
+    return kept;
 }
 
 /// The text without what the code page lacks.
@@ -109,7 +140,7 @@ std::string ScintillaControl::keepable(const std::string& text) const
 bool ScintillaControl::viewportEvent(QEvent* event)
 {
     const bool handled = QsciScintilla::viewportEvent(event);
-    Q_EMIT eventHandled();
+    m_edits->settle();
     return handled;
 }
 

@@ -3,10 +3,9 @@
 
 #include "editor/scintilla_text_box.h"
 
+#include "editor/edit_protocol.h"
 #include "editor/scintilla_control.h"
 #include "text/text_files.h"
-
-#include <QScopedValueRollback>
 
 #include <algorithm>
 #include <array>
@@ -17,16 +16,6 @@ namespace {
 
 using Sci = QsciScintillaBase;
 
-/// The changes that the box hears of: all of them are about to happen. Styling is not among them.
-constexpr unsigned long heardChanges =
-    Sci::SC_MOD_INSERTCHECK | Sci::SC_MOD_BEFOREINSERT | Sci::SC_MOD_BEFOREDELETE;
-
-/// With these the control tells assistive technology what changed, counting characters from the start of the text:
-/// a cost that grows with the document, to be paid only where somebody listens.
-constexpr unsigned long spokenChanges = Sci::SC_MOD_INSERTTEXT | Sci::SC_MOD_DELETETEXT;
-
-constexpr int undoOrRedo = Sci::SC_PERFORMED_UNDO | Sci::SC_PERFORMED_REDO;
-
 unsigned long wide(Position position)
 {
     return static_cast<unsigned long>(position);
@@ -36,32 +25,22 @@ unsigned long wide(Position position)
 
 ScintillaTextBox::ScintillaTextBox(ScintillaControl& control, const CodePage& codePage)
     : m_control(control),
+      m_edits(control.edits()),
       m_codePage(codePage),
       m_styles(control)
 {
     m_control.setCodePage(codePage);
     m_styles.define();
-    hearChanges();
-    QAccessible::installActivationObserver(this);
-    connect(&m_control, &Sci::SCN_MODIFIED, this,
-            [this](int position, int kind, const char* /*text*/, int length) { modified(position, kind, length); });
-    connect(&m_control, &ScintillaControl::eventHandled, this, &ScintillaTextBox::settle);
 }
 
 ScintillaTextBox::~ScintillaTextBox()
 {
-    QAccessible::removeActivationObserver(this);
+    m_edits.setObserver(nullptr);
 }
 
-void ScintillaTextBox::hearChanges()
+void ScintillaTextBox::setObserver(TextObserver* observer)
 {
-    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK,
-                            QAccessible::isActive() ? heardChanges | spokenChanges : heardChanges);
-}
-
-void ScintillaTextBox::accessibilityActiveChanged(bool /*active*/)
-{
-    hearChanges();
+    m_edits.setObserver(observer);
 }
 
 Position ScintillaTextBox::length() const
@@ -100,24 +79,23 @@ void ScintillaTextBox::setText(std::string_view text)
         replaceTarget(text);
         select(0, 0);
     }
-    settle();
+    m_edits.settle();
 }
 
 void ScintillaTextBox::loadText(std::string_view text)
 {
-    // Nothing of the load is answered, checked or kept for undo, so the control takes the text in one copy.
-    m_control.SendScintilla(Sci::SCI_SETMODEVENTMASK, 0UL);
-    m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 0UL);
-    m_control.SendScintilla(Sci::SCI_CLEARALL);
-    // With no room to spare the control would make its room anew, and twice as large, when the text comes.
-    constexpr std::size_t roomToSpare = 1 << 16;
-    m_control.SendScintilla(Sci::SCI_ALLOCATE, text.size() + roomToSpare);
-    m_control.SendScintilla(Sci::SCI_APPENDTEXT, text.size(), text.data());
-    m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 1UL);
-    m_control.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
-    hearChanges();
+    m_edits.withoutNotice([&] {
+        m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 0UL);
+        m_control.SendScintilla(Sci::SCI_CLEARALL);
+        // With no room to spare the control would make its room anew, and twice as large, when the text comes.
+        constexpr std::size_t roomToSpare = 1 << 16;
+        m_control.SendScintilla(Sci::SCI_ALLOCATE, text.size() + roomToSpare);
+        m_control.SendScintilla(Sci::SCI_APPENDTEXT, text.size(), text.data());
+        m_control.SendScintilla(Sci::SCI_SETUNDOCOLLECTION, 1UL);
+        m_control.SendScintilla(Sci::SCI_EMPTYUNDOBUFFER);
+    });
     m_control.setCursorPosition(0, 0);
-    tellWidget();
+    m_edits.tellListeners();
 }
 
 Position ScintillaTextBox::caret() const
@@ -154,7 +132,7 @@ void ScintillaTextBox::replaceSelection(std::string_view text)
         const auto end = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETTARGETEND));
         select(end, 0);
     }
-    settle();
+    m_edits.settle();
 }
 
 void ScintillaTextBox::replaceRange(Position start, Position length, std::string_view text)
@@ -177,7 +155,7 @@ void ScintillaTextBox::replaceRange(Position start, Position length, std::string
         return std::min(position, end);
     };
     putCaret(moved(oldCaret), moved(oldAnchor));
-    settle();
+    m_edits.settle();
 }
 
 /// Puts a text in the place of the control's target, as far as the code page holds it.
@@ -188,9 +166,31 @@ void ScintillaTextBox::replaceTarget(std::string_view text)
         kept = withCrLf(m_codePage.keepable(text));
         text = kept;
     }
-    m_control.expectText(std::string(text));
+    m_edits.expect(QByteArray::fromRawData(text.data(), static_cast<qsizetype>(text.size())));
     m_control.SendScintilla(Sci::SCI_REPLACETARGET, text.size(), text.data());
-    m_control.expectText({});
+    m_edits.expect({});
+}
+
+void ScintillaTextBox::respell(std::span<const Respelling> words)
+{
+    const Position oldCaret = caret();
+    const auto oldAnchor = static_cast<Position>(m_control.SendScintilla(Sci::SCI_GETANCHOR));
+    m_edits.withoutNotice([&] {
+        const UndoStep step(*this);
+        for (const auto& [start, spelling] : words) {
+            const long style = m_control.SendScintilla(Sci::SCI_GETSTYLEAT, wide(start));
+            const auto end = static_cast<long>(start + spelling.size());
+            m_control.SendScintilla(Sci::SCI_SETTARGETRANGE, wide(start), end);
+            m_control.SendScintilla(Sci::SCI_REPLACETARGET, spelling.size(), spelling.data());
+            if (style == 0) // As all new text.
+                continue;
+            m_control.SendScintilla(Sci::SCI_STARTSTYLING, wide(start));
+            m_control.SendScintilla(Sci::SCI_SETSTYLING, spelling.size(), style);
+        }
+    });
+    putCaret(oldCaret, oldAnchor);
+    m_edits.noteChange(ChangeOrigin::Edit);
+    m_edits.settle();
 }
 
 TextStyle ScintillaTextBox::styleAt(Position position) const
@@ -206,33 +206,22 @@ void ScintillaTextBox::styleRange(Position start, Position length, const TextSty
     m_control.SendScintilla(Sci::SCI_SETSTYLING, wide(part.length), long{m_styles.numberOf(style)});
 }
 
-void ScintillaTextBox::styleAll(const StyleMap& styles)
+void ScintillaTextBox::applyStyles(Position start, const StyleMap& styles)
 {
-    std::array<char, 256> numberFor{};
+    const std::string& entries = styles.entries;
     const std::vector<unsigned char> given = m_styles.numbersOf(styles.palette);
-    std::copy(given.begin(), given.end(), numberFor.begin());
-
-    // Block by block, so that the bytes are still in the processor's cache when the control reads them.
-    constexpr Position blockSize = 1 << 16;
-    std::string numbers;
-    m_control.SendScintilla(Sci::SCI_STARTSTYLING, 0UL);
-    for (Position start = 0; start < styles.entries.size(); start += blockSize) {
-        const std::string_view entries = std::string_view(styles.entries).substr(start, blockSize);
-        numbers.resize(entries.size());
-        std::transform(entries.begin(), entries.end(), numbers.begin(),
-                       [&](char entry) { return numberFor[static_cast<unsigned char>(entry)]; });
-        keepStyles(numbers, entries, start);
-        m_control.SendScintilla(Sci::SCI_SETSTYLINGEX, numbers.size(), numbers.data());
+    std::string numbers(entries.size(), '\0');
+    // Style by style: the compiler takes many bytes at once in such a loop, and none in one that looks up each byte.
+    for (std::size_t style = 0; style < given.size(); ++style) {
+        const auto entry = static_cast<char>(style);
+        const auto number = static_cast<char>(given[style]);
+        std::transform(entries.begin(), entries.end(), numbers.begin(), numbers.begin(),
+                       [=](char wanted, char present) { return wanted == entry ? number : present; });
     }
-}
-
-/// Puts the present numbers where the map asks to keep them.
-void ScintillaTextBox::keepStyles(std::string& numbers, std::string_view entries, Position start) const
-{
-    for (std::size_t i = entries.find(StyleMap::keep); i != std::string_view::npos;
-         i = entries.find(StyleMap::keep, i + 1)) {
+    for (Position i = entries.find(StyleMap::keep); i < entries.size(); i = entries.find(StyleMap::keep, i + 1))
         numbers[i] = static_cast<char>(m_control.SendScintilla(Sci::SCI_GETSTYLEAT, wide(start + i)));
-    }
+    m_control.SendScintilla(Sci::SCI_STARTSTYLING, wide(start));
+    m_control.SendScintilla(Sci::SCI_SETSTYLINGEX, numbers.size(), numbers.data());
 }
 
 void ScintillaTextBox::beginUndoStep()
@@ -248,88 +237,13 @@ void ScintillaTextBox::endUndoStep()
 void ScintillaTextBox::undo()
 {
     m_control.SendScintilla(Sci::SCI_UNDO);
-    settle();
+    m_edits.settle();
 }
 
 void ScintillaTextBox::redo()
 {
     m_control.SendScintilla(Sci::SCI_REDO);
-    settle();
-}
-
-void ScintillaTextBox::modified(int position, int kind, int length)
-{
-    const auto start = static_cast<Position>(position);
-    const auto size = static_cast<std::size_t>(length);
-    if (kind & Sci::SC_MOD_INSERTCHECK) {
-        const std::string text = m_control.takeExpected(size);
-        announce({start, 0, text});
-        return;
-    }
-    if (!(kind & heardChanges))
-        return;
-    if ((kind & Sci::SC_MOD_BEFOREDELETE) && !(kind & undoOrRedo))
-        announce({start, size, {}});
-    noteChange((kind & undoOrRedo) != 0);
-}
-
-void ScintillaTextBox::noteChange(bool undoRedo)
-{
-    if (m_answering)
-        return;
-    m_changed = true;
-    m_undoRedo = undoRedo;
-    if (m_settleQueued)
-        return;
-    // An edit that comes neither from an event nor through this box is answered as soon as events run again.
-    m_settleQueued = true;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            m_settleQueued = false;
-            settle();
-        },
-        Qt::QueuedConnection);
-}
-
-/// Opens an undo step around a coming edit when the observer will edit in answer to it.
-void ScintillaTextBox::announce(const PendingEdit& edit)
-{
-    if (!m_observer || m_answering || m_joined || m_control.isComposing())
-        return;
-    if (m_observer->willEditAfter(edit)) {
-        m_control.SendScintilla(Sci::SCI_BEGINUNDOACTION);
-        m_joined = true;
-    }
-}
-
-void ScintillaTextBox::settle()
-{
-    if (m_answering || m_control.isComposing())
-        return;
-    if (m_changed && m_observer) {
-        const QScopedValueRollback answering(m_answering, true);
-        m_observer->textChanged(m_undoRedo ? ChangeOrigin::UndoRedo : ChangeOrigin::Edit);
-    }
-    if (m_changed)
-        tellWidget();
-    m_changed = false;
-    if (m_joined) {
-        m_joined = false;
-        m_control.SendScintilla(Sci::SCI_ENDUNDOACTION);
-    }
-}
-
-/// Sends the widget's own signals, which it leaves out for changes that it does not hear of.
-void ScintillaTextBox::tellWidget()
-{
-    if (QAccessible::isActive() && m_changed)
-        return;
-    Q_EMIT m_control.textChanged();
-    const int lines = m_control.lines();
-    if (lines != m_lines)
-        Q_EMIT m_control.linesChanged();
-    m_lines = lines;
+    m_edits.settle();
 }
 
 Selection ScintillaTextBox::cut(Position start, Position length) const

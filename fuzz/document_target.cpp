@@ -51,10 +51,9 @@ void checkFullPass(const std::string& text)
     require(within.styles.entries == pass.styles.entries, "nothing around the text is read");
 
     std::string respelled = text;
-    for (const Respelling& respelling : pass.respellings) {
-        const std::string_view spelling = keywords.textAt(respelling.keyword);
-        require(text.compare(respelling.start, spelling.size(), spelling) != 0, "what is respelled was misspelt");
-        respelled.replace(respelling.start, spelling.size(), spelling);
+    for (const auto& [start, spelling] : pass.respellings) {
+        require(text.compare(start, spelling.size(), spelling) != 0, "what is respelled was misspelt");
+        respelled.replace(start, spelling.size(), spelling);
     }
     require(upperCased(respelled) == upperCased(text), "nothing but letter case changes");
     const FullPass again = colourText(respelled, keywords, {});

@@ -55,11 +55,6 @@ std::string_view plainForm(char32_t codePoint)
     }
 }
 
-bool isAscii(char character)
-{
-    return static_cast<unsigned char>(character) < 0x80;
-}
-
 } // namespace
 
 CodePage::CodePage(const std::array<char16_t, 256>& characters)
@@ -71,15 +66,18 @@ CodePage::CodePage(const std::array<char16_t, 256>& characters)
     assert(m_bytes.size() == characters.size());
 }
 
+// Almost all of a text is ASCII, which all three take run by run.
+
 std::string CodePage::decode(std::string_view bytes) const
 {
     std::string text;
     text.reserve(bytes.size() + bytes.size() / 16);
-    for (const char byte : bytes) {
-        if (isAscii(byte))
-            text += byte;
-        else
-            text += m_utf8[static_cast<unsigned char>(byte)];
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const std::size_t ascii = asciiRun(bytes, i);
+        text.append(bytes, i, ascii);
+        i += ascii;
+        if (i < bytes.size())
+            text += m_utf8[static_cast<unsigned char>(bytes[i])];
     }
     return text;
 }
@@ -89,10 +87,11 @@ std::string CodePage::encode(std::string_view text) const
     std::string bytes;
     bytes.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
-        if (isAscii(text[i])) {
-            bytes += text[i++];
-            continue;
-        }
+        const std::size_t ascii = asciiRun(text, i);
+        bytes.append(text, i, ascii);
+        i += ascii;
+        if (i == text.size())
+            break;
         const Utf8Character character = utf8At(text, i);
         const int byte = character.valid ? byteFor(character.codePoint) : -1;
         if (byte >= 0)
@@ -106,11 +105,7 @@ std::string CodePage::encode(std::string_view text) const
 
 bool CodePage::holds(std::string_view text) const
 {
-    for (std::size_t i = 0; i < text.size();) {
-        if (isAscii(text[i])) {
-            ++i;
-            continue;
-        }
+    for (std::size_t i = asciiRun(text, 0); i < text.size(); i += asciiRun(text, i)) {
         const Utf8Character character = utf8At(text, i);
         if (!character.valid || byteFor(character.codePoint) < 0)
             return false;

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,13 +32,19 @@ struct Selection {
     friend bool operator==(const Selection&, const Selection&) = default;
 };
 
-/// The styles of a whole text: `entries` holds one byte for each byte of the text, an index into `palette`, or
-/// `keep` where the text keeps the style that it has.
+/// The styles of a piece of text: `entries` holds one byte for each byte of it, an index into `palette`, or `keep`
+/// where the text keeps the style that it has.
 struct StyleMap {
     static constexpr char keep = '\xFF';
 
     std::vector<TextStyle> palette;
     std::string entries;
+};
+
+/// A place in the text that gets another spelling of the same length.
+struct Respelling {
+    Position start = 0;
+    std::string_view spelling;
 };
 
 /// A change about to happen: `removed` bytes from `start` go, then `inserted` comes in their place.
@@ -100,13 +107,16 @@ public:
     /// Replaces a range; caret and selection stay on the characters that they stood on.
     virtual void replaceRange(Position start, Position length, std::string_view text) = 0;
 
+    /// Writes words in other spellings. Caret, selection and styles stay; one undo step, and one change to observers.
+    virtual void respell(std::span<const Respelling> words) = 0;
+
     virtual TextStyle styleAt(Position position) const = 0;
 
     /// Styles a range. Not an edit: undo does not see it and no observer hears of it.
     virtual void styleRange(Position start, Position length, const TextStyle& style) = 0;
 
-    /// Styles the whole text in one go; `styles.entries` must be as long as the text.
-    virtual void styleAll(const StyleMap& styles) = 0;
+    /// As `styleRange`, for as many bytes from `start` on as the map has entries; the text must hold them.
+    virtual void applyStyles(Position start, const StyleMap& styles) = 0;
 
     /// Edits between the two are undone together; pairs may nest. See `UndoStep`.
     virtual void beginUndoStep() = 0;

@@ -3,6 +3,9 @@
 
 #include "text/utf8.h"
 
+#include <cstdint>
+#include <cstring>
+
 namespace kitwright {
 
 namespace {
@@ -45,6 +48,20 @@ Utf8Character utf8At(std::string_view text, std::size_t offset)
     if (isOverlongOrSurrogate(codePoint, length))
         return {};
     return {codePoint, length, true};
+}
+
+std::size_t asciiRun(std::string_view text, std::size_t offset)
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t end = offset;
+    for (std::uint64_t eight = 0; end + sizeof eight <= text.size(); end += sizeof eight) {
+        std::memcpy(&eight, text.data() + end, sizeof eight);
+        if (eight & highBits)
+            break;
+    }
+    while (end < text.size() && static_cast<unsigned char>(text[end]) < 0x80)
+        ++end;
+    return end - offset;
 }
 
 std::string_view cutUtf8(std::string_view text, std::size_t mostBytes)

@@ -19,6 +19,9 @@ struct Utf8Character {
 /// The character that starts at `offset` (from 0), which must lie inside the text.
 Utf8Character utf8At(std::string_view text, std::size_t offset);
 
+/// The number of ASCII characters in a row from `offset` on.
+std::size_t asciiRun(std::string_view text, std::size_t offset);
+
 /// The start of a UTF-8 text, `mostBytes` long at most and without a part of a character at its end.
 std::string_view cutUtf8(std::string_view text, std::size_t mostBytes);
 

@@ -42,6 +42,12 @@ TEST_F(FullPassOverADocument, StylesEveryWordThatABlankEndsAndEveryComment)
         box.styleRange(0, box.length(), testing::oldStyle);
         colour();
         EXPECT_EQ(markedText(box), after) << before;
+        box.loadText(before);
+        colour();
+        const std::string opened = markedText(box);
+        loadColoured(box, before, keywords, settings);
+        EXPECT_EQ(markedText(box), opened) << before;
+        EXPECT_FALSE(control.isUndoAvailable());
     }
 }
 
@@ -64,10 +70,13 @@ TEST_F(FullPassOverADocument, LeavesTheSelectionAndIsAnUndoStepOnlyWhereItRespel
 TEST_F(FullPassOverADocument, ColoursADocumentOfAnyLength)
 {
     const int times = 1500;
-    box.loadText(repeated(writtenLines, times));
-    ASSERT_GT(box.length(), 100'000U);
+    const std::string longComment = "//" + std::string(200'000, 'x') + " class \r\n";
+    const std::string coloured = repeated(colouredLines, times) + "<K:" + longComment + ">" + colouredLines;
+    box.loadText(repeated(writtenLines, times) + longComment + writtenLines);
     colour();
-    EXPECT_TRUE(markedText(box) == repeated(colouredLines, times));
+    EXPECT_TRUE(markedText(box) == coloured);
+    loadColoured(box, repeated(writtenLines, times) + longComment + writtenLines, keywords, settings);
+    EXPECT_TRUE(markedText(box) == coloured);
 }
 
 TEST_F(FullPassOverADocument, LeavesTheViewWhereItIs)
@@ -97,6 +106,24 @@ TEST(FullPassOfTheProgram, ShowsTheWaitWindowUnlessColouringIsOff)
         app.use("cmdrefresh");
         EXPECT_EQ(app.window("Form2").windowHandle() != nullptr, !off);
         EXPECT_FALSE(app.window("Form2").isVisible());
+    }
+}
+
+TEST(FullPassOfTheProgram, LetsEventsRunWhenTheUndoStepOfTheChangeIsOver)
+{
+    testing::RunningApplication app;
+    app.startWith();
+    app.box().setText("CLASS x\r\n");
+    auto& main = app.program().mainWindow();
+    QObject::connect(&main, &fmrconfigedit::fullPassBegins, [&] { app.box().replaceRange(0, 0, "y"); });
+    {
+        const DocumentChange change(main);
+        app.box().replaceRange(app.box().length(), 0, "MAN ");
+        main.Uprav2();
+    }
+    for (const char* earlier : {"yclass x\r\nMan ", "class x\r\nMan ", "CLASS x\r\n"}) {
+        EXPECT_EQ(app.box().text(), earlier);
+        dynamic_cast<ScintillaTextBox&>(app.box()).undo();
     }
 }
 

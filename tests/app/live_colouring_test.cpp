@@ -20,8 +20,6 @@ using testing::markedText;
 
 /// Typing into a document, coloured live.
 struct Typing : testing::ColouredDocument {
-    Typing() { live.ColouringEnabled = true; }
-
     LiveColouring live{box, keywords, settings};
 
     /// A document whose caret stands at the "|", all of it in the old style, so that what a step leaves alone shows.
@@ -75,7 +73,7 @@ TEST_F(Typing, StaysInACommentUntilALineBreakOrTheStartOfTheText)
     }
 }
 
-TEST_F(Typing, RestsWhileColouringIsOffOrHeld)
+TEST_F(Typing, RestsWhileColouringIsOffOrPaused)
 {
     const auto typed = [&] {
         open("x MA|");
@@ -86,12 +84,10 @@ TEST_F(Typing, RestsWhileColouringIsOffOrHeld)
     settings.KeywordColouringOff = true;
     EXPECT_EQ(typed(), untouched);
     settings.KeywordColouringOff = false;
-    live.ColouringEnabled = false;
-    EXPECT_EQ(typed(), untouched);
-    live.ColouringEnabled = true;
-    live.hold();
-    EXPECT_EQ(typed(), untouched);
-    live.release();
+    {
+        const LiveColouring::Pause pause(live);
+        EXPECT_EQ(typed(), untouched);
+    }
     EXPECT_EQ(typed(), "<O:x ><N:Man> <K://b|>");
 }
 

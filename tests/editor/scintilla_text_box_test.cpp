@@ -123,6 +123,44 @@ TEST_F(Control, AnswersEachEventOnceWithinItsUndoStep)
     QAccessible::setActive(false);
 }
 
+TEST_F(Control, ShowsItsTextToAssistiveTechnologyOnceThatIsActive)
+{
+    const auto interface = [&] { return QAccessible::queryAccessibleInterface(&control); };
+    control.show();
+    box.loadText("žcd");
+    box.select(2, 1);
+    for (const bool active : {false, true, false}) {
+        QAccessible::setActive(active);
+        EXPECT_EQ(interface()->role(), QAccessible::EditableText);
+        ASSERT_EQ(interface()->textInterface() != nullptr, active);
+        if (!active)
+            continue;
+        control.grab();
+        EXPECT_EQ(interface()->textInterface()->cursorPosition(), 2);
+        EXPECT_EQ(interface()->textInterface()->selectionCount(), 1);
+        type("x");
+        control.grab();
+        EXPECT_EQ(interface()->textInterface()->text(0, 3), "žxd");
+        EXPECT_EQ(interface()->textInterface()->cursorPosition(), 2);
+    }
+}
+
+TEST_F(Control, RespellsWordsWithoutTouchingAnythingElse)
+{
+    const TextStyle red{0x0000FF, false, false};
+    box.loadText("ab cd ef");
+    box.styleRange(3, 2, red);
+    box.select(1, 3);
+    const Respelling words[] = {{0, "AB"}, {3, "CD"}};
+    box.respell(words);
+    EXPECT_EQ(box.text(), "AB CD ef");
+    EXPECT_TRUE(box.styleAt(2) == TextStyle() && box.styleAt(3) == red && box.styleAt(4) == red);
+    EXPECT_EQ(box.selection(), (Selection{1, 3}));
+    EXPECT_EQ(heard, 1);
+    box.undo();
+    EXPECT_EQ(box.text(), "ab cd ef");
+}
+
 TEST_F(Control, LendsOutStyleNumbersAgain)
 {
     // There are fewer than 256. However many are free when a map comes, its styles must not be mixed up.
@@ -132,7 +170,7 @@ TEST_F(Control, LendsOutStyleNumbersAgain)
             box.styleRange(0, 4, {number << 8, false, false});
         const std::uint32_t own = (used - 200) << 16;
         const StyleMap map{{{own + 1}, {own + 2}, {own + 3}}, std::string("\0\1\2", 3) + StyleMap::keep};
-        box.styleAll(map);
+        box.applyStyles(0, map);
         for (Position i = 0; i < 3; ++i)
             EXPECT_EQ(box.styleAt(i), map.palette[i]) << used << ' ' << i;
         EXPECT_EQ(box.styleAt(3), (TextStyle{used << 8, false, false})) << used;
