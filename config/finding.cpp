@@ -11,12 +11,7 @@
 
 namespace kitwright {
 
-void FindingList::sort()
-{
-    std::stable_sort(findings.begin(), findings.end(), [](const Finding& left, const Finding& right) {
-        return std::tie(left.range.start, left.range.end) < std::tie(right.range.start, right.range.end);
-    });
-}
+namespace {
 
 std::string shownArgument(std::string_view text)
 {
@@ -25,6 +20,46 @@ std::string shownArgument(std::string_view text)
     std::string result(shown);
     std::replace_if(result.begin(), result.end(), isBlank, ' ');
     return shown.size() < text.size() ? result + "..." : result;
+}
+
+} // namespace
+
+void FindingList::add(Message message, TextRange range, std::initializer_list<std::string_view> arguments,
+                      std::vector<TextEdit> mend)
+{
+    ++m_counts[static_cast<std::size_t>(severityOf(message))];
+    if (isFull())
+        return;
+    Finding& finding = m_kept.emplace_back(Finding{message, range, {}, std::move(mend)});
+    for (const std::string_view argument : arguments)
+        finding.arguments.push_back(shownArgument(argument));
+}
+
+void FindingList::append(FindingList&& others)
+{
+    for (std::size_t i = 0; i < m_counts.size(); ++i)
+        m_counts[i] += others.m_counts[i];
+    for (Finding& finding : others.m_kept) {
+        if (isFull())
+            break;
+        m_kept.push_back(std::move(finding));
+    }
+}
+
+void FindingList::removeIf(const std::function<bool(const Finding&)>& isMeant, std::size_t from)
+{
+    const auto start = m_kept.begin() + static_cast<std::ptrdiff_t>(std::min(from, m_kept.size()));
+    const auto kept = std::stable_partition(start, m_kept.end(), [&](const Finding& one) { return !isMeant(one); });
+    for (auto removed = kept; removed != m_kept.end(); ++removed)
+        --m_counts[static_cast<std::size_t>(removed->severity())];
+    m_kept.erase(kept, m_kept.end());
+}
+
+void FindingList::sort()
+{
+    std::stable_sort(m_kept.begin(), m_kept.end(), [](const Finding& left, const Finding& right) {
+        return std::tie(left.range.start, left.range.end) < std::tie(right.range.start, right.range.end);
+    });
 }
 
 std::string textOf(const Finding& finding)

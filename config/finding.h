@@ -6,7 +6,11 @@
 #include "config/messages.h"
 #include "config/token.h"
 
+#include <array>
+#include <functional>
+#include <initializer_list>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kitwright {
@@ -33,25 +37,36 @@ struct Finding {
 };
 
 /// The most findings that are kept; their number goes on.
-inline constexpr std::size_t mostFindings = 10'000;
+inline constexpr std::size_t mostFindings = 1'000;
 
-/// Findings by their place.
-struct FindingList {
-    std::vector<Finding> findings; ///< The first `mostFindings`.
-    std::size_t total = 0;
+/// Findings; the first `mostFindings` are kept, all are counted.
+class FindingList {
+public:
+    const std::vector<Finding>& kept() const { return m_kept; }
 
-    void add(Finding finding)
-    {
-        if (++total <= mostFindings)
-            findings.push_back(std::move(finding));
-    }
+    /// How many there are, kept or not.
+    std::size_t count() const { return m_counts[0] + m_counts[1] + m_counts[2]; }
+    std::size_t count(Severity severity) const { return m_counts[static_cast<std::size_t>(severity)]; }
+
+    /// Whether a further finding would only be counted.
+    bool isFull() const { return m_kept.size() >= mostFindings; }
+
+    /// Adds one; its arguments are pieces of a config's text, put on one line and cut to a length that can be read.
+    void add(Message message, TextRange range, std::initializer_list<std::string_view> arguments = {},
+             std::vector<TextEdit> mend = {});
+
+    void append(FindingList&& others);
+
+    /// Takes away those kept ones, from an index on, that are meant.
+    void removeIf(const std::function<bool(const Finding&)>& isMeant, std::size_t from = 0);
 
     /// Puts them in the order of their places.
     void sort();
-};
 
-/// A piece of a config's text as an argument of a message: on one line, and cut to a length that can be read.
-std::string shownArgument(std::string_view text);
+private:
+    std::vector<Finding> m_kept;
+    std::array<std::size_t, 3> m_counts{}; ///< By severity.
+};
 
 /// The text of a finding in English.
 std::string textOf(const Finding& finding);

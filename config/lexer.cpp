@@ -13,7 +13,7 @@ namespace kitwright {
 namespace {
 
 /// What a character begins: a token of one character, or one of the classes below.
-enum Beginning : std::uint8_t { WordStart = 32, Blank, Break, Quote, Slash, Plus, Hash };
+enum Beginning : std::uint8_t { Blank = 32, Break, Quote, Slash, Plus, Hash, WordStart, NameStart };
 
 constexpr std::array<std::uint8_t, 256> beginnings = [] {
     std::array<std::uint8_t, 256> table{};
@@ -21,6 +21,10 @@ constexpr std::array<std::uint8_t, 256> beginnings = [] {
     const auto set = [&](char character, auto value) {
         table[static_cast<unsigned char>(character)] = static_cast<std::uint8_t>(value);
     };
+    for (int character = 0; character < 0x80; ++character) {
+        if (isNameCharacter(static_cast<char>(character)))
+            set(static_cast<char>(character), NameStart);
+    }
     for (const char character : {' ', '\t', '\v', '\f'})
         set(character, Blank);
     set('\n', Break);
@@ -50,7 +54,9 @@ std::uint8_t beginningOf(char character)
 class Lexer {
 public:
     explicit Lexer(std::string_view text)
-        : m_text(text.substr(0, 0xFFFFFFFF)), m_end(static_cast<std::uint32_t>(m_text.size())), m_tokens(m_text)
+        : m_text(text.substr(0, 0xFFFFFFFF)),
+          m_end(static_cast<std::uint32_t>(m_text.size())),
+          m_tokens(m_text)
     {
     }
 
@@ -59,7 +65,7 @@ public:
         m_tokens.reserve(m_text.size() / 5 + 16);
         while (m_at < m_end)
             step();
-        m_tokens.add(TokenKind::End, m_end, true);
+        m_tokens.end();
         return std::move(m_tokens);
     }
 
@@ -71,9 +77,7 @@ private:
         const std::uint8_t beginning = beginningOf(m_text[m_at]);
         switch (beginning) {
         case Blank:
-            do
-                ++m_at;
-            while (m_at < m_end && (m_text[m_at] == ' ' || m_text[m_at] == '\t'));
+            m_at = blanksEnd(m_at + 1);
             break;
         case Break:
             ++m_at;
@@ -93,11 +97,12 @@ private:
             break;
         case Hash:
             if (m_isFirstOnLine)
-                add(TokenKind::Directive, directiveEnd());
+                directive();
             else
                 word();
             break;
         case WordStart:
+        case NameStart:
             word();
             break;
         default:
@@ -112,44 +117,76 @@ private:
         m_at = end;
     }
 
+    void addCutOff(TokenKind kind, std::uint32_t end)
+    {
+        m_tokens.addCutOff(kind, m_at, m_isFirstOnLine);
+        m_isFirstOnLine = false;
+        m_at = end;
+    }
+
+    std::uint32_t blanksEnd(std::uint32_t from) const
+    {
+        const char* const text = m_text.data();
+        while (from < m_end && beginningOf(text[from]) == Blank)
+            ++from;
+        return from;
+    }
+
+    std::uint32_t lineEnd(std::uint32_t from) const
+    {
+        const std::string_view rest = m_text.substr(from);
+        const std::string_view line = rest.substr(0, rest.find('\n'));
+        return from + static_cast<std::uint32_t>(std::min(line.find('\r'), line.size()));
+    }
+
     void word()
     {
-        std::uint32_t end = m_at + 1;
-        while (end < m_end && (beginningOf(m_text[end]) == WordStart || continuesWord(end)))
+        const char* const text = m_text.data();
+        std::uint32_t end = m_at;
+        while (end < m_end && beginningOf(text[end]) == NameStart)
             ++end;
-        const std::string_view characters = m_text.substr(m_at, end - m_at);
-        add(kindOfWord(characters), end);
+        bool isPlain = true;
+        if (end == m_at || (end < m_end && continuesWord(end))) {
+            isPlain = false;
+            do
+                ++end;
+            while (end < m_end && continuesWord(end));
+        }
+        const TokenKind kind = kindOfWord(m_text.substr(m_at, end - m_at), isPlain);
+        m_tokens.add(kind, m_at, m_isFirstOnLine, isPlain || kind == TokenKind::Number);
+        m_isFirstOnLine = false;
+        m_at = end;
     }
 
     bool continuesWord(std::uint32_t offset) const
     {
-        switch (beginningOf(m_text[offset])) {
-        case WordStart:
-        case Hash:
-            return true;
-        case Slash:
+        const std::uint8_t beginning = beginningOf(m_text[offset]);
+        if (beginning == Slash)
             return at(offset + 1) != '/' && at(offset + 1) != '*';
-        case Plus:
+        if (beginning == Plus)
             return at(offset + 1) != '=';
-        default:
-            return false;
-        }
+        return beginning >= Hash;
     }
 
-    static TokenKind kindOfWord(std::string_view word)
+    static TokenKind kindOfWord(std::string_view word, bool isPlain)
     {
         const char first = word.front();
-        if (first == 'c' || first == 'C')
-            return sameName(word, "class") ? TokenKind::Class : TokenKind::Word;
-        if (first == 'd' || first == 'D')
-            return sameName(word, "delete") ? TokenKind::Delete : TokenKind::Word;
-        return first <= '9' && isNumber(word) ? TokenKind::Number : TokenKind::Word;
+        if (first <= '9')
+            return isNumber(word) ? TokenKind::Number : TokenKind::Word;
+        if (isPlain && word.size() == 5 && (first == 'c' || first == 'C') && sameName(word, "class"))
+            return TokenKind::Class;
+        if (isPlain && word.size() == 6 && (first == 'd' || first == 'D') && sameName(word, "delete"))
+            return TokenKind::Delete;
+        return TokenKind::Word;
     }
 
     void string()
     {
         const StringEnd end = stringEnd(m_at);
-        add(end.isClosed ? TokenKind::String : TokenKind::OpenString, end.offset);
+        if (end.isClosed)
+            add(TokenKind::String, end.offset);
+        else
+            addCutOff(TokenKind::OpenString, end.offset);
     }
 
     struct StringEnd {
@@ -159,32 +196,41 @@ private:
 
     StringEnd stringEnd(std::uint32_t from) const
     {
-        for (std::uint32_t i = from + 1; i < m_end && !isLineBreak(m_text[i]); ++i) {
-            if (m_text[i] != '"')
+        const char* const text = m_text.data();
+        for (std::uint32_t i = from + 1; i < m_end; ++i) {
+            const std::uint8_t beginning = beginningOf(text[i]);
+            if (beginning == Break)
+                return {i, false};
+            if (beginning != Quote)
                 continue;
             if (at(i + 1) != '"')
                 return {i + 1, true};
             ++i;
         }
-        const std::size_t end = m_text.find_first_of("\r\n", from);
-        return {static_cast<std::uint32_t>(std::min<std::size_t>(end, m_end)), false};
+        return {m_end, false};
     }
 
     void slash()
     {
         if (at(m_at + 1) == '/') {
-            const std::size_t end = m_text.find_first_of("\r\n", m_at);
-            add(TokenKind::LineComment, static_cast<std::uint32_t>(std::min<std::size_t>(end, m_end)));
+            add(TokenKind::LineComment, lineEnd(m_at));
         } else if (at(m_at + 1) == '*') {
             const bool isFirst = m_isFirstOnLine;
             const std::size_t end = m_text.find("*/", m_at + 2);
             if (end == std::string_view::npos)
-                return add(TokenKind::OpenComment, m_end);
+                return addCutOff(TokenKind::OpenComment, m_end);
             add(TokenKind::BlockComment, static_cast<std::uint32_t>(end) + 2);
             m_isFirstOnLine = isFirst;
         } else {
             word();
         }
+    }
+
+    void directive()
+    {
+        m_tokens.addDirective(m_at);
+        m_isFirstOnLine = false;
+        m_at = directiveEnd();
     }
 
     /// A directive ends with its line, unless a backslash ends that, or at a comment that does.
@@ -197,11 +243,10 @@ private:
             } else if (m_text[i] == '/' && at(i + 1) == '/') {
                 break;
             } else if (m_text[i] == '/' && at(i + 1) == '*') {
-                const std::size_t end = m_text.find_first_of("\r\n*", i + 2);
-                const std::size_t close = commentEndOnLine(end);
-                if (close == std::string_view::npos)
+                const std::size_t end = m_text.substr(i, lineEnd(i) - i).find("*/", 2);
+                if (end == std::string_view::npos)
                     break;
-                i = static_cast<std::uint32_t>(close);
+                i += static_cast<std::uint32_t>(end) + 2;
             } else if (m_text[i] == '\\' && isLineBreak(at(i + 1))) {
                 i += at(i + 1) == '\r' && at(i + 2) == '\n' ? 3 : 2;
             } else {
@@ -209,17 +254,6 @@ private:
             }
         }
         return std::min(i, m_end);
-    }
-
-    /// The place behind "*/" on the line, `from` being its next star or line end; npos when there is none.
-    std::size_t commentEndOnLine(std::size_t from) const
-    {
-        while (from < m_end && m_text[from] == '*') {
-            if (at(static_cast<std::uint32_t>(from) + 1) == '/')
-                return from + 2;
-            from = m_text.find_first_of("\r\n*", from + 1);
-        }
-        return std::string_view::npos;
     }
 
     std::string_view m_text;

@@ -27,7 +27,8 @@ constexpr std::array<std::pair<std::string_view, DirectiveKind>, 10> directiveWo
 /// Blanks, and the backslashes that continue a line.
 std::size_t passBlanks(std::string_view text, std::size_t at)
 {
-    while (at < text.size() && (isBlank(text[at]) || (text[at] == '\\' && at + 1 < text.size() && isLineBreak(text[at + 1]))))
+    while (at < text.size()
+           && (isBlank(text[at]) || (text[at] == '\\' && at + 1 < text.size() && isLineBreak(text[at + 1]))))
         ++at;
     return at;
 }
@@ -75,7 +76,8 @@ Directive readDirective(std::string_view text)
     directive.name = directive.kind == DirectiveKind::Include ? fileNameIn(rest) : takeName(rest);
     directive.rest = rest;
     if (!directive.name.empty())
-        directive.rest.remove_prefix(static_cast<std::size_t>(directive.name.data() - rest.data()) + directive.name.size());
+        directive.rest.remove_prefix(static_cast<std::size_t>(directive.name.data() - rest.data())
+                                     + directive.name.size());
     return directive;
 }
 
@@ -87,6 +89,7 @@ void Macros::define(const Directive& directive)
     macro.text = directive.rest;
     if (macro.text.starts_with('(')) {
         const std::size_t close = std::min(macro.text.find(')'), macro.text.size());
+        m_takeArguments = true;
         macro.parameters = countParameters(macro.text.substr(1, close - 1));
         macro.text.remove_prefix(std::min(close + 1, macro.text.size()));
     }
@@ -100,10 +103,8 @@ void Macros::define(const Directive& directive)
 Macros macrosOf(const Tokens& tokens)
 {
     Macros macros;
-    for (TokenIndex i = 0; i < tokens.count(); ++i) {
-        if (tokens.kind(i) != TokenKind::Directive)
-            continue;
-        const Directive directive = readDirective(tokens.textOf(i));
+    for (const TokenIndex token : tokens.directives()) {
+        const Directive directive = readDirective(tokens.textOf(token));
         if (directive.kind == DirectiveKind::Define)
             macros.define(directive);
         else if (directive.kind == DirectiveKind::Include)

@@ -12,7 +12,18 @@
 
 namespace kitwright {
 
-enum class DirectiveKind : std::uint8_t { Define, Undef, Include, Ifdef, Ifndef, Else, Endif, LaterIf, LaterElse, Other };
+enum class DirectiveKind : std::uint8_t {
+    Define,
+    Undef,
+    Include,
+    Ifdef,
+    Ifndef,
+    Else,
+    Endif,
+    LaterIf,
+    LaterElse,
+    Other
+};
 
 /// A directive taken apart; the parts point into its text.
 struct Directive {
@@ -35,9 +46,9 @@ Directive readDirective(std::string_view text);
 struct Macro {
     static constexpr int none = -1;
 
-    std::string_view text;  ///< Without its parameters.
-    int parameters = none;  ///< How many; `none` when it takes no parentheses.
-    bool isUneven = false;  ///< It opens or closes a brace that it does not close or open.
+    std::string_view text; ///< Without its parameters.
+    int parameters = none; ///< How many; `none` when it takes no parentheses.
+    bool isUneven = false; ///< It opens or closes a brace that it does not close or open.
 };
 
 /// The macros of a config and of what it includes. Their names and texts point into the texts that define them.
@@ -57,6 +68,9 @@ public:
 
     /// False once an include could not be read: any word may then be a macro.
     bool isComplete() const { return m_isComplete; }
+    /// Whether one of them takes arguments.
+    bool takeArguments() const { return m_takeArguments; }
+
     void setIncomplete() { m_isComplete = false; }
 
     /// Adds what a #define defines, or replaces an older one.
@@ -71,6 +85,7 @@ private:
     std::unordered_map<std::string_view, Macro> m_macros;
     std::array<std::uint64_t, 4> m_marks{}; ///< Passes over most words that are no macro at once.
     bool m_isComplete = true;
+    bool m_takeArguments = false;
 };
 
 /// The macros that the directives of a text itself define.

@@ -13,17 +13,39 @@ namespace kitwright {
 namespace {
 
 constexpr std::array<std::string_view, 33> ids = {
-    "missing-semicolon",   "extra-semicolon",        "missing-brace",
-    "extra-brace",         "class-without-body",     "unclosed-string",
-    "unclosed-comment",    "array-without-brackets", "brackets-without-array",
-    "missing-value",       "bad-value",              "unexpected-text",
-    "unbalanced-directive", "macro-redefined",       "macro-arguments",
-    "missing-include",     "include-case",           "duplicate-class",
-    "duplicate-property",  "unknown-base",           "undeclared-base",
-    "base-case",           "own-base",               "no-patches",
-    "unlisted-class",      "listed-unknown",         "unused-declaration",
-    "missing-file",        "file-case",              "file-type",
-    "missing-text",        "foreign-letter",         "quoted-number",
+    "missing-semicolon",
+    "extra-semicolon",
+    "missing-brace",
+    "extra-brace",
+    "class-without-body",
+    "unclosed-string",
+    "unclosed-comment",
+    "array-without-brackets",
+    "brackets-without-array",
+    "missing-value",
+    "bad-value",
+    "unexpected-text",
+    "unbalanced-directive",
+    "macro-redefined",
+    "macro-arguments",
+    "missing-include",
+    "include-case",
+    "duplicate-class",
+    "duplicate-property",
+    "unknown-base",
+    "undeclared-base",
+    "base-case",
+    "own-base",
+    "no-patches",
+    "unlisted-class",
+    "listed-unknown",
+    "unused-declaration",
+    "missing-file",
+    "file-case",
+    "file-type",
+    "missing-text",
+    "foreign-letter",
+    "quoted-number",
 };
 static_assert(ids.size() == static_cast<std::size_t>(FindingKind::QuotedNumber) + 1);
 
@@ -71,8 +93,9 @@ constexpr std::array messages = {
                  QT_TRANSLATE_NOOP("Findings", "%1 is no number")},
     MessageEntry{Message::DecimalComma, FindingKind::BadValue, Severity::Error,
                  QT_TRANSLATE_NOOP("Findings", "The decimals of a number stand behind a point")},
-    MessageEntry{Message::TextBehindString, FindingKind::BadValue, Severity::Error,
-                 QT_TRANSLATE_NOOP("Findings", "The text ends in front of %1; a quote inside a text is written twice")},
+    MessageEntry{
+        Message::TextBehindString, FindingKind::BadValue, Severity::Error,
+        QT_TRANSLATE_NOOP("Findings", "The text ends in front of %1; a quote inside a text is written twice")},
     MessageEntry{Message::MissingComma, FindingKind::BadValue, Severity::Error,
                  QT_TRANSLATE_NOOP("Findings", "A comma is missing in front of %1")},
     MessageEntry{Message::TypographicQuotes, FindingKind::BadValue, Severity::Error,
@@ -123,10 +146,12 @@ constexpr std::array messages = {
                  QT_TRANSLATE_NOOP("Findings", "There is a class %1 here already")},
     MessageEntry{Message::DuplicateProperty, FindingKind::DuplicateProperty, Severity::Error,
                  QT_TRANSLATE_NOOP("Findings", "There is a %1 in this class already")},
-    MessageEntry{Message::UnknownBase, FindingKind::UnknownBase, Severity::Warning,
-                 QT_TRANSLATE_NOOP("Findings", "Neither this config nor the game has a class %1 to derive from here")},
-    MessageEntry{Message::UndeclaredBase, FindingKind::UndeclaredBase, Severity::Error,
-                 QT_TRANSLATE_NOOP("Findings", "The game's class %1 has to be declared before a class derives from it")},
+    MessageEntry{
+        Message::UnknownBase, FindingKind::UnknownBase, Severity::Warning,
+        QT_TRANSLATE_NOOP("Findings", "Neither this config nor the game has a class %1 to derive from here")},
+    MessageEntry{
+        Message::UndeclaredBase, FindingKind::UndeclaredBase, Severity::Error,
+        QT_TRANSLATE_NOOP("Findings", "The game's class %1 has to be declared before a class derives from it")},
     MessageEntry{Message::BaseDeclaredLater, FindingKind::UndeclaredBase, Severity::Error,
                  QT_TRANSLATE_NOOP("Findings", "Class %1 comes only further down; a base stands in front")},
     MessageEntry{Message::BaseCase, FindingKind::BaseCase, Severity::Hint,
@@ -151,8 +176,9 @@ constexpr std::array messages = {
                  QT_TRANSLATE_NOOP("Findings", "%1 takes a file of another kind: %2")},
     MessageEntry{Message::MissingText, FindingKind::MissingText, Severity::Warning,
                  QT_TRANSLATE_NOOP("Findings", "No string table of the add-on has the key %1")},
-    MessageEntry{Message::PerhapsMissingText, FindingKind::MissingText, Severity::Hint,
-                 QT_TRANSLATE_NOOP("Findings", "No string table of the add-on has the key %1; does the game have it?")},
+    MessageEntry{
+        Message::PerhapsMissingText, FindingKind::MissingText, Severity::Hint,
+        QT_TRANSLATE_NOOP("Findings", "No string table of the add-on has the key %1; does the game have it?")},
     MessageEntry{Message::ForeignLetter, FindingKind::ForeignLetter, Severity::Warning,
                  QT_TRANSLATE_NOOP("Findings", "The name %1 has a letter that is not one of a to z")},
     MessageEntry{Message::QuotedNumber, FindingKind::QuotedNumber, Severity::Hint,
@@ -218,7 +244,8 @@ std::string withArguments(std::string_view text, std::span<const std::string> ar
 {
     std::string result;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const std::size_t number = i + 1 < text.size() ? static_cast<std::size_t>(text[i + 1] - '1') : arguments.size();
+        const std::size_t number =
+            i + 1 < text.size() ? static_cast<std::size_t>(text[i + 1] - '1') : arguments.size();
         if (text[i] == '%' && number < arguments.size()) {
             result += arguments[number];
             ++i;

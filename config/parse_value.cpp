@@ -127,8 +127,7 @@ void Parser::judgeScalar(TokenIndex first, TokenIndex end)
         const std::uint32_t start = whole.start + static_cast<std::uint32_t>(quoteAtStart(textOf(first)));
         const std::uint32_t stop = whole.end - static_cast<std::uint32_t>(quoteAtEnd(textOf(last)));
         if (start <= stop)
-            tell(Message::TypographicQuotes, whole, {},
-                 {{{whole.start, start}, "\""}, {{stop, whole.end}, "\""}});
+            tell(Message::TypographicQuotes, whole, {}, {{{whole.start, start}, "\""}, {{stop, whole.end}, "\""}});
     } else if (bad == end) {
         if (first == last)
             judgeWord(first);
@@ -234,7 +233,8 @@ void Parser::beginElement()
 void Parser::element()
 {
     const bool isWord = kind() == TokenKind::Word;
-    if (!isWord && kind() != TokenKind::String && kind() != TokenKind::Number && kind() != TokenKind::OpenParenthesis) {
+    if (!isWord && kind() != TokenKind::String && kind() != TokenKind::Number
+        && kind() != TokenKind::OpenParenthesis) {
         tellOfList(Message::UnexpectedText, m_tokens.range(m_at), {textOf(m_at)});
         return step();
     }

@@ -1,17 +1,17 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "config/parser_state.h"
-
 #include "config/characters.h"
-#include "config/lexer.h"
+#include "config/parser_state.h"
 
 #include <algorithm>
 
 namespace kitwright {
 
 Parser::Parser(const Tokens& tokens, const Macros& macros, BraceRule rule)
-    : m_tokens(tokens), m_macros(macros), m_rule(rule)
+    : m_tokens(tokens),
+      m_macros(macros),
+      m_rule(rule)
 {
     m_nodes.reserve(tokens.count() / 4 + 8);
     m_nodes.emplace_back();
@@ -22,7 +22,7 @@ void Parser::run()
     while (m_at < m_tokens.count() && m_tokens.isComment(m_at))
         ++m_at;
     while (kind() != TokenKind::End) {
-        m_statementFindings = m_findings.findings.size();
+        m_statementFindings = m_findings.kept().size();
         m_isSilent = false;
         statement();
         for (; m_swallowedBraces > 0; --m_swallowedBraces)
@@ -34,15 +34,6 @@ void Parser::run()
 }
 
 // Tokens
-
-TokenIndex Parser::behind(TokenIndex token) const
-{
-    const TokenIndex count = m_tokens.count();
-    do
-        ++token;
-    while (token < count && m_tokens.isComment(token));
-    return std::min(token, count);
-}
 
 bool Parser::mayBeMacro(TokenIndex token) const
 {
@@ -75,18 +66,11 @@ bool Parser::startsStatement(TokenIndex token) const
     }
 }
 
-void Parser::advance()
+/// What a string without an end swallowed may explain whatever else is wrong with its statement.
+void Parser::silenceStatement()
 {
-    if (kind() == TokenKind::OpenString) {
-        // What the quote swallowed may explain whatever else is wrong with the statement.
-        m_isSilent = true;
-        m_findings.total -= m_findings.findings.size() - m_statementFindings;
-        m_findings.findings.erase(m_findings.findings.begin() + static_cast<std::ptrdiff_t>(m_statementFindings),
-                                  m_findings.findings.end());
-    }
-    if (kind() != TokenKind::Directive)
-        m_last = m_at;
-    m_at = behind(m_at);
+    m_isSilent = true;
+    m_findings.removeIf([](const Finding&) { return true; }, m_statementFindings);
 }
 
 void Parser::step()
@@ -261,117 +245,6 @@ void Parser::macroStatement()
     close(node);
 }
 
-void Parser::classStatement()
-{
-    const NodeIndex node = open(NodeKind::Class, m_at);
-    step();
-    classHead(node);
-}
-
-/// A class head whose first word is misspelled or left out, or the enumeration of later versions.
-bool Parser::misspelledClass()
-{
-    const auto opensBody = [&](TokenIndex token) {
-        return kind(token) == TokenKind::OpenBrace
-            || (kind(token) == TokenKind::Colon && isName(behind(token))
-                && kind(behind(behind(token))) == TokenKind::OpenBrace);
-    };
-    const TokenIndex next = behind(m_at);
-    const std::string_view word = textOf(m_at);
-    if (word == "enum" && kind(next) == TokenKind::OpenBrace) {
-        tell(Message::LaterEnum, m_tokens.range(m_at));
-        const NodeIndex node = open(NodeKind::Macro, m_at);
-        step();
-        passBraces();
-        expectSemicolon();
-        close(node);
-        return true;
-    }
-    if (opensBody(next)) {
-        const std::uint32_t start = m_tokens.start(m_at);
-        tell(Message::MissingClassWord, m_tokens.range(m_at), {word}, {{{start, start}, "class "}});
-        classHead(open(NodeKind::Class, m_at));
-        return true;
-    }
-    if (isName(next) && !m_tokens.isFirstOnLine(next) && opensBody(behind(next))) {
-        tell(Message::MisspelledClassWord, m_tokens.range(m_at), {word}, {{m_tokens.range(m_at), "class"}});
-        classStatement();
-        return true;
-    }
-    return false;
-}
-
-/// Takes the word that names a class or its base.
-void Parser::className(NodeIndex index, std::uint8_t Node::*place)
-{
-    Node& node = m_nodes[index];
-    if (!isName(m_at) || startsProperty(m_at)) {
-        tell(Message::MissingName, m_tokens.range(m_last));
-        return;
-    }
-    const TokenIndex distance = m_at - node.first;
-    node.*place = distance < Node::none ? static_cast<std::uint8_t>(distance) : Node::none;
-    const TokenIndex word = m_at;
-    passWord();
-    passDirectives();
-    m_nodes[index].isOpaque = m_nodes[index].isOpaque || isMacro(word) || m_last != word;
-}
-
-void Parser::classHead(NodeIndex node)
-{
-    className(node, &Node::name);
-    behindClassHead(node);
-}
-
-void Parser::behindClassHead(NodeIndex node)
-{
-    if (kind() == TokenKind::Colon) {
-        step();
-        className(node, &Node::base);
-    }
-    const TokenIndex junk = m_at;
-    while (kind() != TokenKind::OpenBrace && kind() != TokenKind::Semicolon && !startsStatement(m_at)
-           && !(isFirstOnLine() && mayBeMacro(m_at)))
-        step();
-    if (m_at != junk)
-        tell(Message::UnexpectedText, spanOf(junk, m_last), {m_tokens.slice(spanOf(junk, m_last))});
-    if (kind() == TokenKind::OpenBrace)
-        return openBlock(node);
-    if (m_at != junk || m_nodes[node].isOpaque || m_nodes[node].name == Node::none)
-        m_isSilent = true;
-    withoutBody(node);
-}
-
-/// A class whose head no brace follows.
-void Parser::withoutBody(NodeIndex node)
-{
-    const std::string_view name = m_tokens.slice(headOf(node));
-    const std::uint32_t end = m_tokens.end(m_last);
-    if (kind() == TokenKind::Semicolon) {
-        if (m_nodes[node].base == Node::none)
-            tell(Message::ForwardDeclaration, headOf(node));
-        else
-            tell(Message::ClassWithoutBody, headOf(node), {name}, {{{end, end}, " {}"}});
-        advance();
-    } else if (hasBodyWithoutBrace(node)) {
-        tell(Message::ClassWithoutBody, headOf(node), {name}, {{{end, end}, " {"}});
-        m_nodes[node].hasBody = true;
-        m_blocks.push_back({node, m_nodes[node].first});
-        return;
-    } else {
-        tell(Message::ClassWithoutBody, headOf(node), {name}, {{{end, end}, " {};"}});
-    }
-    close(node);
-}
-
-/// True when what follows a head without a brace is indented like a body.
-bool Parser::hasBodyWithoutBrace(NodeIndex node) const
-{
-    const int column = columnOf(m_nodes[node].first);
-    return column != noColumn && columnOf(m_at) > column
-        && (kind() == TokenKind::Class || startsProperty(m_at));
-}
-
 void Parser::deletion()
 {
     tell(Message::LaterDelete, m_tokens.range(m_at));
@@ -458,7 +331,8 @@ void Parser::unexpected()
 void Parser::recover()
 {
     const TokenIndex first = m_at;
-    while (kind() != TokenKind::End && (m_at == first || !startsStatement(m_at)) && kind() != TokenKind::Directive) {
+    while (kind() != TokenKind::End && (m_at == first || !startsStatement(m_at))
+           && kind() != TokenKind::Directive) {
         const bool isEnd = kind() == TokenKind::Semicolon || kind() == TokenKind::OpenString;
         const TokenKind next = kind(behind(m_at));
         if (kind() == TokenKind::OpenBrace && next != TokenKind::String && next != TokenKind::Number)
@@ -506,16 +380,8 @@ void Parser::expectSemicolon()
 void Parser::tell(Message message, TextRange range, std::initializer_list<std::string_view> arguments,
                   std::vector<TextEdit> mend)
 {
-    if (m_isSilent)
-        return;
-    if (m_findings.total >= mostFindings) {
-        ++m_findings.total;
-        return;
-    }
-    Finding finding{message, range, {}, std::move(mend)};
-    for (const std::string_view argument : arguments)
-        finding.arguments.push_back(shownArgument(argument));
-    m_findings.add(std::move(finding));
+    if (!m_isSilent)
+        m_findings.add(message, range, arguments, std::move(mend));
 }
 
 void Parser::tellMissingSemicolon(TokenIndex last)
@@ -540,71 +406,6 @@ TextRange Parser::headOf(NodeIndex index) const
         return spanOf(node.first, std::max(node.first, m_last));
     const TokenIndex name = node.first + (node.name == Node::none ? 0 : node.name);
     return m_tokens.range(name);
-}
-
-namespace {
-
-/// Strings and comments that are cut off.
-void tellOpenTokens(const Tokens& tokens, FindingList& findings)
-{
-    for (TokenIndex i = 0; i < tokens.count(); ++i) {
-        if (tokens.kind(i) == TokenKind::OpenComment) {
-            const std::uint32_t start = tokens.start(i);
-            findings.add({Message::UnclosedComment, {start, start + 2}, {}, {}});
-        } else if (tokens.kind(i) == TokenKind::OpenString) {
-            // What ends the statement was hardly meant to be part of the text.
-            const std::string_view text = tokens.textOf(i);
-            const std::size_t last = text.find_last_not_of(" \t,;}");
-            const auto end = tokens.start(i) + static_cast<std::uint32_t>(last + 1);
-            const TokenKind next = tokens.kind(i + 1);
-            const bool endsStatement = end == tokens.end(i) && (next == TokenKind::Word || next == TokenKind::Class);
-            std::vector<TextEdit> mend;
-            if (last > 0)
-                mend = {{{end, end}, endsStatement ? "\";" : "\""}};
-            findings.add({Message::UnclosedString, tokens.range(i), {}, std::move(mend)});
-        }
-    }
-}
-
-bool isAboutBlocks(const Finding& finding)
-{
-    return finding.message == Message::MissingBrace || finding.message == Message::ExtraBrace;
-}
-
-} // namespace
-
-ParsedConfig parse(Tokens tokens, const Macros& macros)
-{
-    Parser parser(tokens, macros, BraceRule::AsWritten);
-    parser.run();
-    std::vector<Node> nodes = parser.takeNodes();
-    FindingList findings = parser.takeFindings();
-    if (parser.hidesBraces()) {
-        findings.total -= std::erase_if(findings.findings, isAboutBlocks);
-    } else if (parser.braceFaults() > 0) {
-        for (const BraceRule rule : {BraceRule::ByIndentation, BraceRule::ByHeadings}) {
-            Parser closer(tokens, macros, rule);
-            closer.run();
-            FindingList closerFindings = closer.takeFindings();
-            if (closer.braceFaults() > parser.braceFaults() || closerFindings.total > findings.total)
-                continue;
-            nodes = closer.takeNodes();
-            findings = std::move(closerFindings);
-            break;
-        }
-    }
-    if (nodes.capacity() > nodes.size() + nodes.size() / 2)
-        nodes.shrink_to_fit();
-    tellOpenTokens(tokens, findings);
-    findings.sort();
-    return {Tree(std::move(tokens), std::move(nodes)), std::move(findings)};
-}
-
-ParsedConfig parse(std::string_view text)
-{
-    Tokens tokens = readTokens(text);
-    const Macros macros = macrosOf(tokens);
-    return parse(std::move(tokens), macros);
 }
 
 } // namespace kitwright

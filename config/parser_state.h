@@ -36,7 +36,7 @@ private:
     // Tokens. The cursor stands on a token that is no comment.
     TokenKind kind() const { return m_tokens.kind(m_at); }
     TokenKind kind(TokenIndex token) const { return m_tokens.kind(token); }
-    TokenIndex behind(TokenIndex token) const;
+    TokenIndex behind(TokenIndex token) const { return m_tokens.behind(token); }
     bool isFirstOnLine() const { return m_tokens.isFirstOnLine(m_at); }
     std::string_view textOf(TokenIndex token) const { return m_tokens.textOf(token); }
     bool isMacro(TokenIndex token) const { return m_macros.find(textOf(token)) != nullptr; }
@@ -45,9 +45,20 @@ private:
     bool startsProperty(TokenIndex token) const;
     bool startsStatement(TokenIndex token) const;
 
-    void advance();         ///< Takes a token.
-    void step();            ///< The same inside a statement: directives that follow are passed over.
-    void passWord();        ///< Takes a token, and what stands in parentheses behind a word.
+    /// Takes a token.
+    void advance()
+    {
+        const TokenKind taken = kind();
+        if (taken == TokenKind::OpenString)
+            silenceStatement();
+        if (taken != TokenKind::Directive)
+            m_last = m_at;
+        m_at = m_tokens.behind(m_at);
+    }
+
+    void silenceStatement();
+    void step();     ///< The same inside a statement: directives that follow are passed over.
+    void passWord(); ///< Takes a token, and what stands in parentheses behind a word.
     void passParentheses();
     void passDirectives();
     void passDirectivesOfStatement();
@@ -133,7 +144,7 @@ private:
     TokenIndex m_at = 0;
     TokenIndex m_last = 0; ///< The token taken last.
     std::vector<Node> m_nodes;
-    NodeIndex m_parent = 0; ///< Of the next node.
+    NodeIndex m_parent = 0;      ///< Of the next node.
     std::vector<Block> m_blocks; ///< The open ones.
 
     enum class ListPart : std::uint8_t { Nothing, Comma, Value };
@@ -153,8 +164,8 @@ private:
 
     FindingList m_findings;
     std::size_t m_statementFindings = 0; ///< How many there were when the statement began.
-    bool m_isSilent = false; ///< A string without an end makes the rest of the statement unclear.
-    std::size_t m_swallowedBraces = 0; ///< Closing braces of blocks that a string without an end took.
+    bool m_isSilent = false;             ///< A string without an end makes the rest of the statement unclear.
+    std::size_t m_swallowedBraces = 0;   ///< Closing braces of blocks that a string without an end took.
     std::size_t m_braceFaults = 0;
     bool m_hidesBraces = false;
 };

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "config/characters.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -22,12 +24,12 @@ struct TextRange {
 using TokenIndex = std::uint32_t;
 
 enum class TokenKind : std::uint8_t {
-    End, ///< Behind the last token; of no length.
+    End,  ///< Behind the last token; of no length.
     Word, ///< Any text without blanks that is nothing else: names, bare values, words of macros.
     Number,
-    Class,  ///< The word "class", in any letter case.
-    Delete, ///< The word "delete".
-    String, ///< With its quotes; a doubled quote inside stands for one.
+    Class,      ///< The word "class", in any letter case.
+    Delete,     ///< The word "delete".
+    String,     ///< With its quotes; a doubled quote inside stands for one.
     OpenString, ///< A string that the end of its line cuts off.
     OpenBrace,
     CloseBrace,
@@ -50,19 +52,42 @@ enum class TokenKind : std::uint8_t {
 /// and must outlive them.
 class Tokens {
 public:
-    Tokens() = default;
+    Tokens() { end(); }
     explicit Tokens(std::string_view text) : m_text(text) {}
 
     std::string_view text() const { return m_text; }
 
     /// How many there are, the last one, of the kind End, not counted.
-    TokenIndex count() const { return m_starts.empty() ? 0 : static_cast<TokenIndex>(m_starts.size() - 1); }
+    TokenIndex count() const { return m_count; }
 
-    TokenKind kind(TokenIndex index) const { return static_cast<TokenKind>(m_kinds[index] & ~lineMark); }
+    /// Those of the kind Directive.
+    const std::vector<TokenIndex>& directives() const { return m_directives; }
+
+    /// Whether there are strings or comments without an end.
+    bool areCutOff() const { return m_areCutOff; }
+
+    TokenKind kind(TokenIndex index) const { return static_cast<TokenKind>(m_kinds[index] & kindMask); }
     bool isFirstOnLine(TokenIndex index) const { return (m_kinds[index] & lineMark) != 0; }
+
+    /// False for a word with characters that no name has.
+    bool isPlain(TokenIndex index) const { return (m_kinds[index] & oddMark) == 0; }
+
     bool isComment(TokenIndex index) const
     {
-        return kind(index) >= TokenKind::LineComment && kind(index) <= TokenKind::OpenComment;
+        constexpr auto first = static_cast<unsigned>(TokenKind::LineComment);
+        constexpr auto last = static_cast<unsigned>(TokenKind::OpenComment);
+        return (m_kinds[index] & kindMask) - first <= last - first;
+    }
+
+    /// The token behind another one, comments passed over; the last one at the most.
+    TokenIndex behind(TokenIndex token) const
+    {
+        if (token >= m_count)
+            return m_count;
+        do
+            ++token;
+        while (isComment(token));
+        return token;
     }
 
     std::uint32_t start(TokenIndex index) const { return m_starts[index]; }
@@ -75,17 +100,53 @@ public:
     TokenIndex at(std::uint32_t offset) const;
 
     void reserve(std::size_t count);
-    void add(TokenKind kind, std::uint32_t start, bool isFirstOnLine);
+    void add(TokenKind kind, std::uint32_t start, bool isFirstOnLine, bool isPlain = true);
+
+    void addDirective(std::uint32_t start);
+    void addCutOff(TokenKind kind, std::uint32_t start, bool isFirstOnLine);
+
+    /// Adds the token of the kind End, behind all others.
+    void end();
 
     /// Bytes that the tokens take.
-    std::size_t memory() const { return m_starts.capacity() * sizeof(std::uint32_t) + m_kinds.capacity(); }
+    std::size_t memory() const
+    {
+        return (m_starts.capacity() + m_directives.capacity()) * sizeof(std::uint32_t) + m_kinds.capacity();
+    }
 
 private:
-    static constexpr std::uint8_t lineMark = 0x80;
+    static constexpr std::uint8_t lineMark = 0x80; ///< On the first token of a line.
+    static constexpr std::uint8_t oddMark = 0x40;  ///< On words that are not plain.
+    static constexpr unsigned kindMask = 0x3F;
 
     std::string_view m_text;
     std::vector<std::uint32_t> m_starts;
-    std::vector<std::uint8_t> m_kinds; ///< With `lineMark` where a token is the first one on its line.
+    std::vector<std::uint8_t> m_kinds; ///< With the marks.
+    std::vector<TokenIndex> m_directives;
+    TokenIndex m_count = 0;
+    bool m_areCutOff = false;
 };
+
+inline std::uint32_t Tokens::end(TokenIndex index) const
+{
+    const TokenKind kind = this->kind(index);
+    const std::uint32_t start = m_starts[index];
+    if (kind >= TokenKind::OpenBrace && kind <= TokenKind::Comma)
+        return start + (kind == TokenKind::Append ? 2 : 1);
+    if (kind == TokenKind::End)
+        return start;
+    // What follows a token is blanks up to the next one.
+    std::uint32_t end = m_starts[index + 1];
+    while (end > start + 1 && isBlank(m_text[end - 1]))
+        --end;
+    return end;
+}
+
+inline void Tokens::add(TokenKind kind, std::uint32_t start, bool isFirstOnLine, bool isPlain)
+{
+    m_starts.push_back(start);
+    m_kinds.push_back(static_cast<std::uint8_t>(static_cast<unsigned>(kind) | (isFirstOnLine ? lineMark : 0U)
+                                                | (isPlain ? 0U : oddMark)));
+}
 
 } // namespace kitwright

@@ -3,6 +3,8 @@
 
 #include "config/tree.h"
 
+#include <algorithm>
+
 namespace kitwright {
 
 static_assert(sizeof(Node) == 20);
@@ -12,18 +14,6 @@ TextRange Tree::rangeOf(NodeIndex index) const
     const Node& node = m_nodes[index];
     const std::uint32_t start = m_tokens.start(node.first);
     return {start, node.end > node.first ? m_tokens.end(node.end - 1) : start};
-}
-
-std::optional<TokenIndex> Tree::nameToken(NodeIndex index) const
-{
-    const Node& node = m_nodes[index];
-    return node.name == Node::none || node.isOpaque ? std::nullopt : std::optional(node.first + node.name);
-}
-
-std::optional<TokenIndex> Tree::baseToken(NodeIndex index) const
-{
-    const Node& node = m_nodes[index];
-    return node.base == Node::none || node.isOpaque ? std::nullopt : std::optional(node.first + node.base);
 }
 
 TokenIndex Tree::bodyOf(NodeIndex index) const
@@ -38,23 +28,25 @@ Tree::Span Tree::valueOf(NodeIndex index) const
 {
     const Node& node = m_nodes[index];
     TokenIndex first = node.first;
-    while (first < node.end && m_tokens.kind(first) != TokenKind::Assign && m_tokens.kind(first) != TokenKind::Append)
+    while (first < node.end && m_tokens.kind(first) != TokenKind::Assign
+           && m_tokens.kind(first) != TokenKind::Append)
         ++first;
     if (first >= node.end)
         return {node.end, node.end};
-    first = behind(first);
+    first = m_tokens.behind(first);
     const bool isEnded = m_tokens.kind(node.end - 1) == TokenKind::Semicolon;
     const TokenIndex end = isEnded ? node.end - 1 : node.end;
     return {first, first > end ? first : end};
 }
 
-TokenIndex Tree::behind(TokenIndex token) const
+NodeIndex Tree::nodeAt(TokenIndex token) const
 {
-    const TokenIndex count = m_tokens.count();
-    do
-        ++token;
-    while (token < count && m_tokens.isComment(token));
-    return token < count ? token : count;
+    const auto behind = std::upper_bound(m_nodes.begin() + 1, m_nodes.end(), token,
+                                         [](TokenIndex place, const Node& node) { return place < node.first; });
+    auto index = static_cast<NodeIndex>(behind - m_nodes.begin() - 1);
+    while (index != 0 && m_nodes[index].end <= token)
+        index = m_nodes[index].parent;
+    return index;
 }
 
 } // namespace kitwright

@@ -34,11 +34,11 @@ struct Node {
     NodeIndex parent = 0;
     NodeIndex next = 0; ///< The node behind it and all that it holds: its next sibling, if it has one.
     NodeKind kind = NodeKind::Root;
-    std::uint8_t name = none; ///< Tokens from its first one to its name; `none`: it has no name.
-    std::uint8_t base = none; ///< The same to the name of its base.
-    bool hasBody : 1 = false; ///< A class with braces.
+    std::uint8_t name = none;  ///< Tokens from its first one to its name; `none`: it has no name.
+    std::uint8_t base = none;  ///< The same to the name of its base.
+    bool hasBody : 1 = false;  ///< A class with braces.
     bool isClosed : 1 = false; ///< Its closing brace is there.
-    bool isArray : 1 = false; ///< A property whose name has brackets.
+    bool isArray : 1 = false;  ///< A property whose name has brackets.
     bool isOpaque : 1 = false; ///< A macro stands in its head: its name and base are not known.
 };
 
@@ -62,8 +62,8 @@ public:
     TextRange rangeOf(NodeIndex index) const;
 
     /// The token of its name or base; nothing when there is none, or a macro may make it.
-    std::optional<TokenIndex> nameToken(NodeIndex index) const;
-    std::optional<TokenIndex> baseToken(NodeIndex index) const;
+    std::optional<TokenIndex> nameToken(NodeIndex index) const { return wordToken(m_nodes[index], &Node::name); }
+    std::optional<TokenIndex> baseToken(NodeIndex index) const { return wordToken(m_nodes[index], &Node::base); }
 
     /// Empty where there is no token.
     std::string_view nameOf(NodeIndex index) const { return textOf(nameToken(index)); }
@@ -79,13 +79,18 @@ public:
     };
     Span valueOf(NodeIndex index) const;
 
-    /// The token behind another one, comments passed over; `Tokens::count()` at the most.
-    TokenIndex behind(TokenIndex token) const;
+    /// The innermost node that a token belongs to.
+    NodeIndex nodeAt(TokenIndex token) const;
 
     /// Bytes that the tree takes.
     std::size_t memory() const { return m_tokens.memory() + m_nodes.capacity() * sizeof(Node); }
 
 private:
+    static std::optional<TokenIndex> wordToken(const Node& node, std::uint8_t Node::*place)
+    {
+        return node.*place == Node::none || node.isOpaque ? std::nullopt : std::optional(node.first + node.*place);
+    }
+
     std::string_view textOf(std::optional<TokenIndex> token) const
     {
         return token ? m_tokens.textOf(*token) : std::string_view();
