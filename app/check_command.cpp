@@ -21,7 +21,11 @@ class CheckRun {
 public:
     CheckRun(const CheckOrder& order, const FileSystem& files, const CodePage& codePage, const GameKnowledge& game,
              const MessageTexts& texts)
-        : m_order(order), m_files(files), m_codePage(codePage), m_game(game), m_texts(texts)
+        : m_order(order),
+          m_files(files),
+          m_codePage(codePage),
+          m_game(game),
+          m_texts(texts)
     {
     }
 
@@ -76,7 +80,8 @@ std::optional<CheckOrder> checkOrder(std::span<const std::string> arguments)
             order.files.push_back(argument);
         } else if (argument == "--") {
             isOptionsEnd = true;
-        } else if (argument == "--format" && hasValue && (arguments[i + 1] == "json" || arguments[i + 1] == "text")) {
+        } else if (argument == "--format" && hasValue
+                   && (arguments[i + 1] == "json" || arguments[i + 1] == "text")) {
             order.format = arguments[++i] == "json" ? CheckOrder::Format::Json : CheckOrder::Format::Lines;
         } else if (argument == "--language" && hasValue) {
             order.language = arguments[++i];

@@ -151,8 +151,7 @@ void MeaningCheck::judgeSecondProperty(const OpenNames::Name& known, SourceNode 
     std::vector<TextEdit> mend;
     if (known.place.source == 0 && behindName(tree, known.place.node) == behindName(tree, place.node))
         mend = {removalOf(tree.text(), tree.rangeOf(place.node))};
-    tell(Message::DuplicateProperty, nameRange(place.node), {tree.nameOf(place.node)},
-         std::move(mend));
+    tell(Message::DuplicateProperty, nameRange(place.node), {tree.nameOf(place.node)}, std::move(mend));
 }
 
 // Bases
@@ -270,7 +269,8 @@ void MeaningCheck::judgeUnusedDeclarations()
             || isOpaque(declared.scope) || m_scopes.find(declared.scope, declared.name) != i)
             continue;
         const TextRange range = tree().rangeOf(declared.place.node);
-        const bool isKnown = m_surroundings.game->find(headingOf(declared.scope), declared.name) != GameClasses::none;
+        const bool isKnown =
+            m_surroundings.game->find(headingOf(declared.scope), declared.name) != GameClasses::none;
         if (isKnown && !m_sources.main().isConditional(range.start))
             tell(Message::UnusedDeclaration, nameRange(declared.place.node), {declared.name},
                  {removalOf(tree().text(), range)});

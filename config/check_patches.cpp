@@ -30,9 +30,10 @@ void MeaningCheck::judgePatches()
 {
     const ClassIndex patches = m_scopes.find(0, "CfgPatches");
     if (patches == noClass) {
-        const auto heading = std::find_if(m_scopes.classes().begin(), m_scopes.classes().end(), [](const ScopeClass& one) {
-            return one.scope == 0 && one.place.source == 0 && sameName(one.name.substr(0, 3), "Cfg");
-        });
+        const auto heading =
+            std::find_if(m_scopes.classes().begin(), m_scopes.classes().end(), [](const ScopeClass& one) {
+                return one.scope == 0 && one.place.source == 0 && sameName(one.name.substr(0, 3), "Cfg");
+            });
         if (heading != m_scopes.classes().end() && m_sources.isComplete() && !isOpaque(0))
             tell(Message::NoPatches, nameRange(heading->place.node), {});
         return;
@@ -96,13 +97,11 @@ void MeaningCheck::judgeListed(const PatchList& list)
             if (kind != TokenKind::Word && kind != TokenKind::String)
                 continue;
             const std::string_view name = withoutQuotes(tree().tokens().textOf(i));
-            const bool isDeclared = heading != noClass
-                                 && m_scopes.find(classAt(heading).body, name) != noClass;
+            const bool isDeclared = heading != noClass && m_scopes.find(classAt(heading).body, name) != noClass;
             const bool isKnown = m_surroundings.game != nullptr
                               && m_surroundings.game->find(list.heading, name) != GameClasses::none;
             if (!isDeclared && !isKnown && !m_sources.macros().mayBe(name))
-                tell(Message::ListedUnknown, tree().tokens().range(i),
-                     {name, list.heading});
+                tell(Message::ListedUnknown, tree().tokens().range(i), {name, list.heading});
         }
     }
 }
@@ -117,7 +116,7 @@ void MeaningCheck::judgePublicClasses(const PatchList& list, std::string_view sc
         if (declared.scope != classAt(heading).body || declared.place.source != 0 || declared.isEmpty
             || list.listed.find(declared.name) != list.listed.end() || !isPublic(declared, scopeProperty))
             continue;
-        tell(message, nameRange(declared.place.node), {declared.name}, 
+        tell(message, nameRange(declared.place.node), {declared.name},
              m_findings.isFull() ? std::vector<TextEdit>() : listing(list, declared.name));
     }
 }

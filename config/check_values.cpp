@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "config/meaning.h"
-
 #include "text/utf8.h"
 
 #include <algorithm>
@@ -83,8 +82,8 @@ void MeaningCheck::judgeString(TokenIndex token)
         return;
     if (text.front() <= '9' && isNumber(text)) {
         const NodeIndex property = tree().nodeAt(token);
-        const bool isAlone = tree()[property].kind == NodeKind::Property
-                          && tree().valueOf(property).first == token && tree().valueOf(property).end == token + 1;
+        const bool isAlone = tree()[property].kind == NodeKind::Property && tree().valueOf(property).first == token
+                          && tree().valueOf(property).end == token + 1;
         if (isAlone && kindOf(property) == PropertyKind::Number)
             tell(Message::QuotedNumber, tokens.range(token), {tree().nameOf(property)},
                  {{tokens.range(token), std::string(text)}});
@@ -132,8 +131,7 @@ void MeaningCheck::judgeText(TokenIndex token, TextRange range)
         const auto types = std::find_if(fileTypes.begin(), fileTypes.end(),
                                         [&](const FileTypes& one) { return one.kind == kind; });
         if (types != fileTypes.end() && !isListed(types->extensions, extension))
-            return tell(Message::FileType, range,
-                        {tree().nameOf(property), types->extensions});
+            return tell(Message::FileType, range, {tree().nameOf(property), types->extensions});
     }
     judgePaths(range);
 }
@@ -153,7 +151,8 @@ void MeaningCheck::judgePaths(TextRange range)
         if (end == std::string_view::npos)
             return;
         if (ownPathLength(text.substr(i + 1, end - i - 1)) > 0)
-            judgePath({range.start + static_cast<std::uint32_t>(i + 1), range.start + static_cast<std::uint32_t>(end)});
+            judgePath(
+                {range.start + static_cast<std::uint32_t>(i + 1), range.start + static_cast<std::uint32_t>(end)});
         // A doubled quote: its second half begins the path.
         i = end == i + 1 ? i : end;
     }
@@ -195,7 +194,8 @@ void MeaningCheck::judgePath(TextRange range)
 void MeaningCheck::judgeTextKey(TextRange range)
 {
     const std::string_view key = tree().tokens().slice(range);
-    if (m_surroundings.folder == nullptr || !sameName(key.substr(0, 4), "$STR") || m_surroundings.folder->hasKey(key))
+    if (m_surroundings.folder == nullptr || !sameName(key.substr(0, 4), "$STR")
+        || m_surroundings.folder->hasKey(key))
         return;
     // Keys of this kind are made by the string table editor; others may be the game's own.
     const bool isOwn = sameName(key.substr(0, 6), "$STRM_");

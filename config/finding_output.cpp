@@ -12,9 +12,8 @@ namespace {
 /// How many characters begin in a range.
 std::size_t countCharacters(std::string_view text)
 {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char byte) {
-        return (static_cast<unsigned char>(byte) & 0xC0) != 0x80;
-    }));
+    return static_cast<std::size_t>(std::count_if(
+        text.begin(), text.end(), [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) != 0x80; }));
 }
 
 std::string quoted(std::string_view text)
@@ -25,7 +24,8 @@ std::string quoted(std::string_view text)
         if (character == '"' || character == '\\')
             result.append(1, '\\').append(1, character);
         else if (static_cast<unsigned char>(character) < ' ')
-            result.append("\\u00").append(1, digits[static_cast<std::size_t>(character) >> 4])
+            result.append("\\u00")
+                .append(1, digits[static_cast<std::size_t>(character) >> 4])
                 .append(1, digits[static_cast<std::size_t>(character) & 15]);
         else
             result += character;
@@ -94,7 +94,9 @@ std::string findingObjects(std::string_view file, std::string_view text, const F
     for (const Finding& finding : findings.kept()) {
         objects.append(objects.empty() ? "" : ",\n").append("  {\"file\": ").append(quoted(file)).append(", ");
         objects.append(rangeMembers(places, finding.range)).append(", \"severity\": ");
-        objects.append(quoted(nameOf(finding.severity()))).append(", \"id\": ").append(quoted(idOf(finding.kind())));
+        objects.append(quoted(nameOf(finding.severity())))
+            .append(", \"id\": ")
+            .append(quoted(idOf(finding.kind())));
         objects.append(", \"text\": ").append(quoted(textIn(texts, finding))).append(", \"mend\": [");
         for (const TextEdit& edit : finding.mend) {
             objects.append(&edit == finding.mend.data() ? "{" : ", {").append(rangeMembers(places, edit.range));

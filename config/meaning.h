@@ -14,7 +14,9 @@ namespace kitwright {
 class MeaningCheck {
 public:
     MeaningCheck(const Sources& sources, const Surroundings& surroundings, FindingList& findings)
-        : m_sources(sources), m_surroundings(surroundings), m_findings(findings)
+        : m_sources(sources),
+          m_surroundings(surroundings),
+          m_findings(findings)
     {
     }
 
@@ -81,14 +83,16 @@ private:
 
     TextRange nameRange(NodeIndex node) const;
 
-    void tell(Message message, TextRange range, std::initializer_list<std::string_view> arguments, std::vector<TextEdit> mend = {});
+    void tell(Message message, TextRange range, std::initializer_list<std::string_view> arguments,
+              std::vector<TextEdit> mend = {});
 
     const Sources& m_sources;
     const Surroundings& m_surroundings;
     FindingList& m_findings;
     Scopes m_scopes;
     OpenNames m_names;
-    std::vector<ClassIndex> m_missingBases; ///< Classes of the config itself whose base was not found when they came.
+    std::vector<ClassIndex>
+        m_missingBases;                ///< Classes of the config itself whose base was not found when they came.
     std::vector<ClassIndex> m_patches; ///< The classes in CfgPatches.
     std::vector<std::string> m_addonNames; ///< By which paths lead into this add-on.
 };

@@ -65,7 +65,8 @@ std::optional<std::string> patchClassName(const Sources& sources)
 std::optional<NodeIndex> patchList(const Tree& tree, std::string_view name)
 {
     const std::optional<NodeIndex> patch = patchClass(tree);
-    for (NodeIndex i = patch ? tree.firstChild(*patch) : 0; patch && i < tree.endOfChildren(*patch); i = tree[i].next) {
+    for (NodeIndex i = patch ? tree.firstChild(*patch) : 0; patch && i < tree.endOfChildren(*patch);
+         i = tree[i].next) {
         if (tree[i].kind == NodeKind::Property && tree[i].isArray && sameName(tree.nameOf(i), name))
             return i;
     }

@@ -26,10 +26,10 @@ inline constexpr ClassIndex noClass = 0xFFFFFFFF;
 
 struct ScopeClass {
     SourceNode place;
-    std::string_view name; ///< As it is written.
-    std::string_view base; ///< The same; empty when it has none.
-    ScopeIndex scope = 0;  ///< That it stands in.
-    ScopeIndex body = 0;   ///< Of what stands in it.
+    std::string_view name;          ///< As it is written.
+    std::string_view base;          ///< The same; empty when it has none.
+    ScopeIndex scope = 0;           ///< That it stands in.
+    ScopeIndex body = 0;            ///< Of what stands in it.
     ClassIndex baseClass = noClass; ///< That it derives from, when it is found.
     bool isEmpty = false;           ///< It only declares that there is such a class.
     bool isUsed = false;            ///< Another one derives from it.

@@ -15,7 +15,8 @@ namespace kitwright {
 class DirectiveReader {
 public:
     DirectiveReader(Sources& sources, const Surroundings& surroundings)
-        : m_sources(sources), m_surroundings(surroundings)
+        : m_sources(sources),
+          m_surroundings(surroundings)
     {
     }
 
@@ -31,7 +32,8 @@ public:
             else
                 end();
         }
-        return std::vector<Tokens>(std::make_move_iterator(m_tokens.begin()), std::make_move_iterator(m_tokens.end()));
+        return std::vector<Tokens>(std::make_move_iterator(m_tokens.begin()),
+                                   std::make_move_iterator(m_tokens.end()));
     }
 
 private:
@@ -134,8 +136,8 @@ private:
         const std::optional<std::string> path = fileOf(directive.name);
         if (!path) {
             m_sources.m_macros.setIncomplete();
-            if (m_surroundings.folder != nullptr && !isAbsolute(directive.name)
-                && !directive.name.starts_with("..") && !isConditional())
+            if (m_surroundings.folder != nullptr && !isAbsolute(directive.name) && !directive.name.starts_with("..")
+                && !isConditional())
                 tell(Message::MissingInclude, token, {directive.name}, {}, directive.name);
             return;
         }
@@ -212,8 +214,8 @@ private:
     }
 
     /// Tells of a part of a directive, or of its first word.
-    void tell(Message message, TokenIndex token, std::initializer_list<std::string_view> arguments, std::vector<TextEdit> mend = {},
-              std::string_view part = {})
+    void tell(Message message, TokenIndex token, std::initializer_list<std::string_view> arguments,
+              std::vector<TextEdit> mend = {}, std::string_view part = {})
     {
         if (m_open.back().source != 0)
             return;
@@ -238,9 +240,9 @@ bool Source::isConditional(std::uint32_t offset) const
 
 std::optional<std::size_t> Source::includedAt(TokenIndex directive) const
 {
-    const auto found = std::lower_bound(
-        inclusions.begin(), inclusions.end(), directive,
-        [](const Inclusion& inclusion, TokenIndex token) { return inclusion.directive < token; });
+    const auto found =
+        std::lower_bound(inclusions.begin(), inclusions.end(), directive,
+                         [](const Inclusion& inclusion, TokenIndex token) { return inclusion.directive < token; });
     if (found == inclusions.end() || found->directive != directive)
         return std::nullopt;
     return found->source;

@@ -23,7 +23,8 @@ Printed run(const FileSystem& files, const std::vector<std::string>& arguments)
 {
     std::ostringstream out;
     std::ostringstream errors;
-    const int code = runCheck(checkOrder(arguments).value_or(CheckOrder()), files, windows1250(), {}, {}, out, errors);
+    const int code =
+        runCheck(checkOrder(arguments).value_or(CheckOrder()), files, windows1250(), {}, {}, out, errors);
     return {code, out.str()};
 }
 

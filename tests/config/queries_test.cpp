@@ -49,13 +49,16 @@ TEST(Queries, PatchClassIsFoundWhateverTheLayoutAndInIncludes)
     EXPECT_EQ(nameIn("#include \"PATCH.hpp\"\nclass CfgVehicles {};"), "Inner");
     EXPECT_EQ(nameIn("class CfgPatches {};"), "none");
 
-    const Sources sources("class CfgPatches { class P { weapons[]={}; units[] =\n{\"A\", B , /* C */ \"\"}; }; };", {});
+    const Sources sources("class CfgPatches { class P { weapons[]={}; units[] =\n{\"A\", B , /* C */ \"\"}; }; };",
+                          {});
     const Tree& tree = sources.main().tree;
     EXPECT_EQ(arrayItems(tree, patchList(tree, "UNITS").value_or(0)), (std::vector<std::string>{"A", "B", ""}));
     EXPECT_EQ(patchList(tree, "worlds"), std::nullopt);
     std::string names;
     for (const OutlineEntry& entry : outline(tree))
-        names.append(static_cast<std::size_t>(entry.level), '>').append(tree.tokens().slice(entry.name)).append(" ");
+        names.append(static_cast<std::size_t>(entry.level), '>')
+            .append(tree.tokens().slice(entry.name))
+            .append(" ");
     EXPECT_EQ(names, "CfgPatches >P ");
 }
 

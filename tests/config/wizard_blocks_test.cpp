@@ -5,14 +5,12 @@
 #include "config/check.h"
 #include "services/class_declarations.h"
 #include "services/game_classes.h"
+#include "support/scenario.h"
 #include "wizards/class_block.h"
 #include "wizards/face_block.h"
 #include "wizards/vehicle_block.h"
 
 #include <gtest/gtest.h>
-
-#include <fstream>
-#include <sstream>
 
 namespace kitwright {
 
@@ -20,10 +18,7 @@ namespace {
 
 std::string shipped(const std::string& file)
 {
-    std::ifstream stream(KITWRIGHT_TOP "/data/Bfdata/kitwright/" + file, std::ios::binary);
-    std::stringstream text;
-    text << stream.rdbuf();
-    return text.str();
+    return testing::scenarioText("../../data/Bfdata/kitwright/" + file);
 }
 
 std::string valueFor(std::string_view property)
@@ -59,7 +54,11 @@ public:
             for (const ListEntry& entry : entries)
                 records.back().Properties.push_back({valueFor(entry.text), true});
         }
-        return classBlock({heading, entries, records, std::vector<bool>(records.size(), true), "MyAddon", {},
+        return classBlock({heading,
+                           entries,
+                           records,
+                           "MyAddon",
+                           {},
                            [this](const std::string& base) { return baseClassBlock(m_classes, base); }})
             .text;
     }
@@ -70,12 +69,10 @@ public:
         addTreeLines(shipped("kitwrightvehicles.dat"), tree);
         std::vector<VehicleProperty> properties(1);
         for (const TreeNode& node : tree.nodes())
-            properties.push_back({"", valueFor(node.text)});
+            properties.push_back({"", valueFor(node.text), true});
         const std::string name = "My" + base;
         const std::string declarations = baseClassBlock(m_classes, base);
-        return "\r\n" + vehicleBlock({name, base, declarations, tree,
-                                      std::vector<bool>(tree.nodes().size(), true), properties})
-             + "\r\n";
+        return "\r\n" + vehicleBlock({name, base, declarations, tree, properties}) + "\r\n";
     }
 
     static std::string faces()
@@ -84,7 +81,7 @@ public:
         std::vector<FaceRecord> faces = {{{}, "MyFace"}};
         for (const ListEntry& entry : entries)
             faces[0].Properties.push_back({valueFor(entry.text), true});
-        return faceBlock(entries, faces, {true});
+        return faceBlock(entries, faces);
     }
 
 private:
@@ -102,7 +99,8 @@ TEST(Check, FindsNothingInWhatTheWizardsWrite)
 
     for (const bool haveAncestors : {true, false}) {
         std::string text = startingText("MyAddon", "1.75");
-        text += wizards.classes("CfgWeapons", "kitwrightweapon.dat", wizards.bases("addweapons.dat", haveAncestors));
+        text +=
+            wizards.classes("CfgWeapons", "kitwrightweapon.dat", wizards.bases("addweapons.dat", haveAncestors));
         text += wizards.classes("CfgAmmo", "kitwrightammo.dat", wizards.bases("addammo.dat", haveAncestors));
         for (const std::string& base : wizards.bases("addvehicles.dat", haveAncestors))
             text += wizards.vehicle(base);
