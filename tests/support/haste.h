@@ -34,7 +34,8 @@ private:
     template <class Container>
     const auto& any(const Container& container)
     {
-        return container[m_random() % static_cast<std::size_t>(std::size(container))];
+        const auto size = std::size(container);
+        return container[static_cast<decltype(size)>(m_random() % static_cast<unsigned>(size))];
     }
 
     RunningApplication& m_app;
