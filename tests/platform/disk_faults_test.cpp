@@ -1,9 +1,14 @@
 // SPDX-FileCopyrightText: The Kitwright developers
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "pack/archive_reader.h"
+#include "pack/archive_writer.h"
+#include "platform/qt_file_streams.h"
 #include "platform/qt_file_system.h"
+#include "platform/qt_sha1.h"
 #include "platform/qt_text.h"
 #include "platform/write_in_place.h"
+#include "text/windows_1250.h"
 
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -16,6 +21,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <unistd.h>
 
 namespace {
@@ -61,6 +67,8 @@ extern "C" int open64(const char* path, int flags, ...)
 }
 
 FAULTY(int, linkat, (int at, const char* from, int in, const char* to, int flags), (at, from, in, to, flags), -1)
+FAULTY(int, mkdir, (const char* path, mode_t mode), (path, mode), -1)
+FAULTY(int, futimens, (int file, const timespec times[2]), (file, times), -1)
 FAULTY(int, unlink, (const char* path), (path), -1)
 FAULTY(int, fchown, (int file, uid_t owner, gid_t group), (file, owner, group), -1)
 FAULTY(int, fchmod, (int file, mode_t mode), (file, mode), -1)
@@ -92,7 +100,10 @@ namespace fs = std::filesystem;
 const std::string oldBytes(20'000, 'o');
 const std::string newBytes(50'000, 'n');
 
-struct DiskFaults : ::testing::TestWithParam<const char*> {
+/// How something ended in which a call to the system went wrong.
+enum class Ending { Done, Failed, Killed };
+
+struct DiskFaults : ::testing::Test {
     std::string at(const std::string& name) const { return fromQt(dir.path()) + '/' + name; }
 
     std::string content(const std::string& name) const
@@ -101,20 +112,61 @@ struct DiskFaults : ::testing::TestWithParam<const char*> {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    void prepare() const
+    void remove(const std::string& name) const { fs::remove_all(at(name)); }
+    auto entries() const { return std::distance(fs::directory_iterator(at("")), {}); }
+
+    using Act = std::function<Failure()>;
+
+    /// Does something again and again, each time with another call to the system going wrong, until none is left.
+    static void underFaults(const std::function<void()>& prepare, const Act& act,
+                            const std::function<void(Ending)>& judge)
     {
-        for (const auto& entry : fs::directory_iterator(at("")))
-            fs::remove(entry);
-        for (const char* name : {"Replace", "CopyOver", "InPlace"})
-            std::ofstream(at(name)) << oldBytes;
-        std::ofstream(at("source")) << newBytes;
+        for (const Fault kind : {Fault::Error, Fault::Short, Fault::Kill}) {
+            for (int call = 1;; ++call) {
+                prepare();
+                callsUntilFault = call;
+                fault = kind;
+                Failure failure;
+                const Ending ending = kind == Fault::Kill ? endOfProcess(act) : endOf(act, failure);
+                const bool struck = std::exchange(fault, Fault::None) == Fault::None || ending == Ending::Killed;
+                SCOPED_TRACE("call " + std::to_string(call) + ": " + failure.value_or("no failure"));
+                judge(ending);
+                if (!struck) {
+                    EXPECT_EQ(ending, Ending::Done);
+                    EXPECT_TRUE(call > 1 || kind == Fault::Short);
+                    break;
+                }
+            }
+        }
     }
 
-    /// Does what the parameter names, once the call that is told goes wrong; a failure where it says so.
-    Failure act(Fault kind, int call)
+    static Ending endOf(const Act& act, Failure& failure)
     {
-        callsUntilFault = call;
-        fault = kind;
+        failure = act();
+        return failure ? Ending::Failed : Ending::Done;
+    }
+
+    static Ending endOfProcess(const Act& act)
+    {
+        const pid_t child = ::fork();
+        if (child == 0)
+            ::_exit(act() ? 1 : 0);
+        int status = 0;
+        EXPECT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFEXITED(status));
+        return WEXITSTATUS(status) == killed ? Ending::Killed
+             : WEXITSTATUS(status) == 0      ? Ending::Done
+                                             : Ending::Failed;
+    }
+
+    QTemporaryDir dir;
+    QtFileSystem files;
+};
+
+struct FileFaults : DiskFaults, ::testing::WithParamInterface<const char*> {
+    /// Does what the parameter names; a failure where it says so.
+    Failure act()
+    {
         const std::string what = GetParam();
         if (what == "Replace" || what == "Create")
             return files.writeBytes(at(what), newBytes);
@@ -133,61 +185,86 @@ struct DiskFaults : ::testing::TestWithParam<const char*> {
         EXPECT_TRUE(!names || names->size() == 4);
         return names ? Failure() : names.reason();
     }
-
-    QTemporaryDir dir;
-    QtFileSystem files;
 };
 
-INSTANTIATE_TEST_SUITE_P(On, DiskFaults,
+INSTANTIATE_TEST_SUITE_P(On, FileFaults,
                          ::testing::Values("Replace", "Create", "CopyOver", "CopyNew", "InPlace", "Read", "List"),
                          [](const auto& operation) { return std::string(operation.param); });
 
 } // namespace
 
-TEST_P(DiskFaults, AreToldOfAndLeaveTheOldOrTheNewFileAndNoOther)
+/// A program that is killed may leave a temporary file, and the old or the new one.
+TEST_P(FileFaults, AreToldOfAndLeaveTheOldOrTheNewFileAndNoOther)
 {
-    for (const Fault kind : {Fault::Error, Fault::Short}) {
-        for (int call = 1;; ++call) {
-            prepare();
-            const Failure failure = act(kind, call);
-            if (std::exchange(fault, Fault::None) != Fault::None) {
-                EXPECT_EQ(failure, Failure());
-                EXPECT_TRUE(call > 1 || kind == Fault::Short);
-                break;
+    const auto prepare = [&] {
+        for (const auto& entry : fs::directory_iterator(at("")))
+            fs::remove(entry);
+        for (const char* name : {"Replace", "CopyOver", "InPlace"})
+            std::ofstream(at(name)) << oldBytes;
+        std::ofstream(at("source")) << newBytes;
+    };
+    underFaults(
+        prepare, [&] { return act(); },
+        [&](Ending ending) {
+            int found = 0;
+            for (const std::string name : {"Replace", "CopyOver", "InPlace", "Create", "CopyNew", "source"}) {
+                const bool isActedOn = name == GetParam();
+                const bool hadNone = name == "Create" || name == "CopyNew";
+                const bool isNew = fs::exists(at(name)) && content(name) == newBytes;
+                const bool isOld = hadNone ? !fs::exists(at(name)) : content(name) == oldBytes;
+                found += fs::exists(at(name)) ? 1 : 0;
+                if (isActedOn && ending == Ending::Killed)
+                    EXPECT_TRUE(isNew || isOld) << name << ": " << content(name).size();
+                else
+                    EXPECT_TRUE(name == "source" || (isActedOn && ending == Ending::Done) ? isNew : isOld) << name;
             }
-            SCOPED_TRACE("call " + std::to_string(call) + ": " + failure.value_or("no failure"));
-            for (const auto& entry : fs::directory_iterator(at(""))) {
-                const std::string name = entry.path().filename();
-                const bool isNew = name == "source" || (name == GetParam() && !failure);
-                EXPECT_EQ(content(name) == newBytes, isNew) << name;
-                EXPECT_EQ(content(name) == oldBytes, !isNew) << name << ": " << content(name).size();
-            }
-        }
-    }
+            EXPECT_TRUE(ending == Ending::Killed || entries() == found);
+        });
 }
 
-/// A temporary file may be left behind.
-TEST_P(DiskFaults, LeaveOldOrNewFilesWhenTheProgramIsKilled)
+TEST_F(DiskFaults, LeaveTheOldOrTheNewArchiveAndAllOrNothingUnpacked)
 {
-    int status = 0;
-    for (int call = 1; call == 1 || WEXITSTATUS(status) == killed; ++call) {
-        SCOPED_TRACE("call " + std::to_string(call));
-        prepare();
-        const pid_t child = ::fork();
-        ASSERT_GE(child, 0);
-        if (child == 0)
-            ::_exit(act(Fault::Kill, call) ? 1 : 0);
-        ASSERT_EQ(::waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFEXITED(status));
-        for (const std::string name : {"Replace", "CopyOver", "InPlace", "Create", "CopyNew", "source"}) {
-            const bool mayBeNew = name == "source" || name == GetParam();
-            const bool hadNone = name == "Create" || name == "CopyNew";
-            EXPECT_TRUE((mayBeNew && content(name) == newBytes)
-                        || (hadNone ? !fs::exists(at(name)) : content(name) == oldBytes))
-                << name << ": " << content(name).size();
-        }
-    }
-    EXPECT_EQ(WEXITSTATUS(status), 0);
+    QtFileStreams streams;
+    QtSha1 sha1;
+    fs::create_directories(at("a/data"));
+    std::ofstream(at("a/config.cpp")) << newBytes;
+    std::ofstream(at("a/data/old.txt")) << oldBytes;
+    const auto pack = [&] {
+        const PackOrder order{at("a"), at("a.pbo"), "p", true, {}};
+        const auto packed = packFolder({files, streams, windows1250(), sha1}, order, {});
+        return packed ? Failure() : packed.reason();
+    };
+    ASSERT_EQ(pack(), Failure());
+    const std::string sound = content("a.pbo");
+    underFaults([&] { std::ofstream(at("a.pbo")) << oldBytes; }, pack,
+                [&](Ending ending) {
+                    EXPECT_TRUE((ending != Ending::Failed && content("a.pbo") == sound)
+                                || (ending != Ending::Done && content("a.pbo") == oldBytes));
+                    EXPECT_TRUE(ending == Ending::Killed || entries() == 2);
+                });
+
+    const auto unpack = [&]() -> Failure {
+        const auto archive = streams.open(at("a.pbo"));
+        if (!archive)
+            return archive.reason();
+        const auto listing = readListing(**archive, windows1250());
+        if (!listing)
+            return listing.reason();
+        const auto folder = streams.createFolder(at("out"));
+        return folder ? unpackArchive(**archive, *listing, sha1, **folder, {}) : folder.reason();
+    };
+    const auto prepare = [&] {
+        for (const char* name : {"out", "out.unpacking"})
+            remove(name);
+        std::ofstream(at("a.pbo")) << sound;
+    };
+    underFaults(prepare, unpack, [&](Ending ending) {
+        const bool isThere = fs::exists(at("out"));
+        const std::string unpacked = content("out/config.cpp") + content("out/data/old.txt");
+        EXPECT_TRUE(ending == Ending::Killed || isThere == (ending == Ending::Done));
+        EXPECT_TRUE(unpacked == (isThere ? newBytes + oldBytes : ""));
+        EXPECT_TRUE(ending == Ending::Killed || entries() == (isThere ? 3 : 2));
+    });
 }
 
 } // namespace kitwright
