@@ -265,7 +265,7 @@ Outcome<PackResult> packFolder(const PackTools& tools, const PackOrder& order, c
     const Outcome<std::uint64_t> size = Packing(tools, order, *contents, progress).make(*prefix);
     if (!size)
         return Result::failed(size.reason());
-    return PackResult{contents->files.size(), *size, std::move((*contents).leftOut)};
+    return PackResult{*archive, contents->files.size(), *size, std::move((*contents).leftOut)};
 }
 
 } // namespace kitwright

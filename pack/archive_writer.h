@@ -34,6 +34,7 @@ struct PackOrder {
 };
 
 struct PackResult {
+    std::string archive; ///< Where it really lies.
     std::size_t fileCount = 0;
     std::uint64_t archiveSize = 0;
     std::vector<LeftOut> leftOut;

@@ -15,10 +15,10 @@ enum class PackCommand { Pack, List, Verify, Unpack, Help, Version };
 /// What the command-line packer is asked to do.
 struct CommandLine {
     PackCommand command = PackCommand::Help;
-    PackOrder order;             ///< Of `Pack`.
-    std::string archive;         ///< Of `List`, `Verify` and `Unpack`.
-    std::string folder;          ///< Of `Unpack`.
-    bool withDetails = false;    ///< Of `List`.
+    PackOrder order;          ///< Of `Pack`.
+    std::string archive;      ///< Of `List`, `Verify` and `Unpack`.
+    std::string folder;       ///< Of `Unpack`.
+    bool withDetails = false; ///< Of `List`.
 };
 
 /// Reads the words behind the program's name. Failure, in one line, when they are not what `commandLineHelp` says.

@@ -94,8 +94,8 @@ Failure read(const CommandLine& line, const PackTools& tools, std::ostream& out,
 
 } // namespace
 
-int runCommand(const std::vector<std::string>& words, const PackTools& tools, std::ostream& out, std::ostream& error,
-               const Progress& progress)
+int runCommand(const std::vector<std::string>& words, const PackTools& tools, std::ostream& out,
+               std::ostream& error, const Progress& progress)
 {
     const Outcome<CommandLine> line = parseCommandLine(words);
     if (!line) {

@@ -3,9 +3,12 @@
 
 #include "platform/qt_program_launcher.h"
 
+#include "platform/native_path.h"
 #include "platform/qt_text.h"
 
+#include <QDesktopServices>
 #include <QProcess>
+#include <QUrl>
 
 namespace kitwright {
 
@@ -21,6 +24,14 @@ Failure QtProgramLauncher::start(const std::string& program, const std::string& 
     process.setArguments({toQt(first == std::string::npos ? std::string() : argument.substr(first))});
 #endif
     return process.startDetached() ? Failure() : Failure(program + ": " + fromQt(process.errorString()));
+}
+
+Failure showFolder(const std::string& folder)
+{
+    const QString path = nativePath(folder);
+    if (QDesktopServices::openUrl(QUrl::fromLocalFile(path)))
+        return {};
+    return failureAt(path, QStringLiteral("no program shows folders"));
 }
 
 } // namespace kitwright

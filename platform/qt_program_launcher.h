@@ -13,4 +13,7 @@ public:
     Failure start(const std::string& program, const std::string& argument) override;
 };
 
+/// Shows a folder in the desktop's file manager.
+Failure showFolder(const std::string& folder);
+
 } // namespace kitwright

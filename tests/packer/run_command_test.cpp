@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "packer/run_command.h"
+
 #include "platform/qt_file_streams.h"
 #include "platform/qt_file_system.h"
 #include "platform/qt_sha1.h"
@@ -65,7 +66,8 @@ TEST(RunCommand, DoesWhatItsWordsSay)
         std::ostringstream out;
         std::ostringstream error;
         EXPECT_EQ(runCommand(list, tools, out, error, {}), asked.status) << asked.words;
-        const QString said = toQt(asked.status == 0 ? out.str() : error.str()).replace(toQt(top), QStringLiteral("@"));
+        const QString said =
+            toQt(asked.status == 0 ? out.str() : error.str()).replace(toQt(top), QStringLiteral("@"));
         EXPECT_TRUE(said.contains(toQt(asked.said))) << asked.words << ": " << fromQt(said);
         EXPECT_EQ((asked.status == 0 ? error : out).str(), "") << asked.words;
     }

@@ -112,7 +112,6 @@ struct DiskFaults : ::testing::Test {
         return {std::istreambuf_iterator<char>(file), {}};
     }
 
-    void remove(const std::string& name) const { fs::remove_all(at(name)); }
     auto entries() const { return std::distance(fs::directory_iterator(at("")), {}); }
 
     using Act = std::function<Failure()>;
@@ -236,7 +235,14 @@ TEST_F(DiskFaults, LeaveTheOldOrTheNewArchiveAndAllOrNothingUnpacked)
     };
     ASSERT_EQ(pack(), Failure());
     const std::string sound = content("a.pbo");
-    underFaults([&] { std::ofstream(at("a.pbo")) << oldBytes; }, pack,
+    const auto prepare = [&](const std::string& archive) {
+        for (const auto& entry : fs::directory_iterator(at(""))) {
+            if (entry.path().filename() != "a")
+                fs::remove_all(entry);
+        }
+        std::ofstream(at("a.pbo")) << archive;
+    };
+    underFaults([&] { prepare(oldBytes); }, pack,
                 [&](Ending ending) {
                     EXPECT_TRUE((ending != Ending::Failed && content("a.pbo") == sound)
                                 || (ending != Ending::Done && content("a.pbo") == oldBytes));
@@ -253,18 +259,14 @@ TEST_F(DiskFaults, LeaveTheOldOrTheNewArchiveAndAllOrNothingUnpacked)
         const auto folder = streams.createFolder(at("out"));
         return folder ? unpackArchive(**archive, *listing, sha1, **folder, {}) : folder.reason();
     };
-    const auto prepare = [&] {
-        for (const char* name : {"out", "out.unpacking"})
-            remove(name);
-        std::ofstream(at("a.pbo")) << sound;
-    };
-    underFaults(prepare, unpack, [&](Ending ending) {
-        const bool isThere = fs::exists(at("out"));
-        const std::string unpacked = content("out/config.cpp") + content("out/data/old.txt");
-        EXPECT_TRUE(ending == Ending::Killed || isThere == (ending == Ending::Done));
-        EXPECT_TRUE(unpacked == (isThere ? newBytes + oldBytes : ""));
-        EXPECT_TRUE(ending == Ending::Killed || entries() == (isThere ? 3 : 2));
-    });
+    underFaults([&] { prepare(sound); }, unpack,
+                [&](Ending ending) {
+                    const bool isThere = fs::exists(at("out"));
+                    const std::string unpacked = content("out/config.cpp") + content("out/data/old.txt");
+                    EXPECT_TRUE(ending == Ending::Killed || isThere == (ending == Ending::Done));
+                    EXPECT_TRUE(unpacked == (isThere ? newBytes + oldBytes : ""));
+                    EXPECT_TRUE(ending == Ending::Killed || entries() == (isThere ? 3 : 2));
+                });
 }
 
 } // namespace kitwright
