@@ -40,15 +40,16 @@ std::uint64_t eightOf(std::string_view characters)
     return eight & ~caseBits;
 }
 
-/// Hash of a word in any letter case. Characters beyond ASCII, whose capitals are not so easily had, are left out.
+/// Hash of a word in any letter case. Bytes beyond ASCII are left out, so that their capitals need not be known.
 std::uint32_t hashOf(std::string_view word)
 {
-    constexpr std::uint64_t beyondAscii = 0x8080808080808080;
+    constexpr std::uint64_t highBits = 0x8080808080808080;
     constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15;
     std::uint64_t hash = word.size();
     for (std::size_t i = 0; i < word.size(); i += sizeof hash) {
         const std::uint64_t eight = eightOf(word.substr(i));
-        hash = (hash ^ (eight & beyondAscii ? 0 : eight)) * mixer;
+        const std::uint64_t beyondAscii = ((eight & highBits) >> 7) * 0xFF;
+        hash = (hash ^ (eight & ~beyondAscii)) * mixer;
         hash ^= hash >> 32;
     }
     return static_cast<std::uint32_t>(hash);

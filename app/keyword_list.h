@@ -56,6 +56,11 @@ private:
         KeywordClass keywordClass = KeywordClass::ConfigCommand;
     };
 
+    struct Slot {
+        std::uint32_t hash = 0;
+        int entry = -1; ///< -1 where the slot is free.
+    };
+
     /// The bit for words of a length; the longest share one.
     static std::uint64_t lengthBit(std::string_view word)
     {
@@ -75,13 +80,7 @@ private:
     void noteLength(std::string_view upper);
 
     std::vector<Entry> m_entries;
-    /// A place of the hash table.
-    struct Slot {
-        std::uint32_t hash = 0;
-        int entry = -1; ///< -1 where free.
-    };
-
-    std::vector<Slot> m_slots;                  ///< Open addressing; a power of two long.
+    std::vector<Slot> m_slots;                  ///< A hash table with open addressing; a power of two long.
     std::array<std::uint64_t, 256> m_lengths{}; ///< The lengths of the keywords by first byte, in either case.
 };
 
