@@ -38,6 +38,13 @@ std::uint64_t bitsOf(std::string_view wanted, const char* characters)
     return bits;
 }
 
+/// The bits below the lowest one that is set; all of them when none is.
+constexpr std::uint64_t below(std::uint64_t bits)
+{
+    return (bits & (~bits + 1)) - 1;
+}
+
+/// A full pass over some whole lines.
 class Pass {
 public:
     Pass(std::string_view text, const KeywordList& keywords)
@@ -69,11 +76,8 @@ private:
             m_text.copy(rest.data(), rest.size(), start);
             characters = rest.data();
         }
-        std::uint64_t delimiters = bitsOf(" \r\n", characters);
         const std::uint64_t comments = bitsOf("/", characters) & bitsOf("/", characters + 1);
-        if (comments != 0)
-            delimiters &= (comments & (~comments + 1)) - 1;
-        words(start, delimiters);
+        words(start, bitsOf(" \r\n", characters) & below(comments));
         if (comments == 0)
             return start + scanned;
         const Position commentStart = start + static_cast<Position>(std::countr_zero(comments));
@@ -82,14 +86,13 @@ private:
         return m_wordStart;
     }
 
-    /// Looks up the words that the delimiters behind a position end.
+    /// Looks up the words that the delimiters among the scanned characters end.
     void words(Position start, std::uint64_t delimiters)
     {
-        const bool afterDelimiter = m_wordStart == start;
-        std::uint64_t ends = delimiters & ~(delimiters << 1 | std::uint64_t{afterDelimiter});
+        const std::uint64_t afterDelimiter = delimiters << 1 | (m_wordStart == start ? 1 : 0);
+        std::uint64_t ends = delimiters & ~afterDelimiter;
         for (; ends != 0; ends &= ends - 1) {
-            const std::uint64_t before = delimiters & ((ends & (~ends + 1)) - 1);
-            if (before != 0)
+            if (const std::uint64_t before = delimiters & below(ends); before != 0)
                 m_wordStart = start + static_cast<Position>(std::bit_width(before));
             word(m_wordStart, start + static_cast<Position>(std::countr_zero(ends)));
         }
@@ -118,7 +121,7 @@ private:
         return end;
     }
 
-    /// The next piece to be painted; what lies before it is plain.
+    /// Paints the range that comes next; what lies before it is plain.
     void paint(Position start, Position end, char entry)
     {
         for (Position i = start; i < end; i += painted)
@@ -127,7 +130,7 @@ private:
         std::memset(m_entries.data() + end, Plain, painted);
     }
 
-    /// Characters that are painted at once, whatever their number, since most pieces are shorter.
+    /// Characters that are painted at once. Most ranges are shorter, and a fixed number is one instruction.
     static constexpr Position painted = 16;
 
     std::string_view m_text;
