@@ -51,14 +51,8 @@ void DocumentCommands::open()
     CommonDialog1.filter = configFilter;
     CommonDialog1.fileName = "Config.cpp";
     const auto path = m_context.dialogs.openFile(CommonDialog1);
-    if (!path || path->empty())
+    if (!path || path->empty() || !NactiConfig(*path, m_context.host->configedit()))
         return;
-    std::optional<std::string> document = NactiConfig(*path);
-    if (!document)
-        return;
-    // As the file spells it, which the colouring may change.
-    ReadPatchClassName(*document, m_context.state.PatchClassName);
-    m_showOpened(std::move(*document));
     m_context.state.CurrentFile = *path;
     m_setCaption(m_context.text(UiText::MainWindowTitle) + " - " + *path);
     m_context.report("reading the stringtable", m_strings.open(*path));
@@ -138,20 +132,24 @@ void DocumentCommands::VlozText(const std::string& Jmeno)
     m_context.host->Uprav2();
 }
 
-/// The content of a file as the editor takes it. Nothing when it cannot be read, is in UTF-16, or has an endless line.
-std::optional<std::string> DocumentCommands::NactiConfig(const std::string& Soubor) const
+/// Sets the editor's text to the content of the file, and the name of the add-on to that in it. A file that cannot be
+/// read, is in UTF-16, or has an endless line leaves both as they were.
+bool DocumentCommands::NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const
 {
     Outcome<std::string> text = m_context.texts.readDocument(Soubor);
     if (!text) {
         m_context.report("opening", text.reason());
-        return {};
+        return false;
     }
     std::string document = withCrLf(std::move(*text));
     if (hasLineLongerThan(longestLine, document)) {
         m_context.report("opening", Soubor + ": a line is too long to be edited");
-        return {};
+        return false;
     }
-    return document;
+    // As the file spells it, which the colouring may change.
+    ReadPatchClassName(document, m_context.state.PatchClassName);
+    m_showOpened(TextovePole, std::move(document));
+    return true;
 }
 
 bool DocumentCommands::UlozConfig(const std::string& Cesta)

@@ -8,7 +8,6 @@
 #include "stringtable/table_store.h"
 
 #include <functional>
-#include <optional>
 #include <string>
 
 namespace kitwright {
@@ -19,8 +18,8 @@ public:
     /// Captions the main window.
     using SetCaption = std::function<void(const std::string& caption)>;
 
-    /// Takes the text of a document that was just opened into the editor, coloured.
-    using ShowOpened = std::function<void(std::string text)>;
+    /// Gives an editor the text of a document that was just opened, coloured.
+    using ShowOpened = std::function<void(RichTextBox& editor, std::string text)>;
 
     /// Context and table must outlive the commands.
     DocumentCommands(Context& context, TableStore& strings, SetCaption setCaption, ShowOpened showOpened);
@@ -41,7 +40,7 @@ public:
     void VlozText(const std::string& Jmeno);
 
 private:
-    std::optional<std::string> NactiConfig(const std::string& Soubor) const;
+    bool NactiConfig(const std::string& Soubor, RichTextBox& TextovePole) const;
     bool UlozConfig(const std::string& Cesta);
     bool askForFile();
     void askForPatchClassName();

@@ -46,7 +46,7 @@ fmrconfigedit::fmrconfigedit(Context& context, TableStore& strings, const Keywor
       m_live(m_box, keywords, context.state.Settings),
       m_commands(
           context, strings, [this](const std::string& caption) { setWindowTitle(toQt(caption)); },
-          [this](std::string text) { showOpened(std::move(text)); })
+          [this](RichTextBox& editor, std::string text) { showOpened(editor, std::move(text)); })
 {
     m_startUp.emplace(m_live);
     new BraceMatcher(*m_ui->configedit);
@@ -165,13 +165,13 @@ void fmrconfigedit::Uprav2()
     fullPass(m_box.length(), [this] { colourBox(m_box, m_keywords, m_context.state.Settings); });
 }
 
-void fmrconfigedit::showOpened(std::string text)
+void fmrconfigedit::showOpened(RichTextBox& editor, std::string text)
 {
     if (m_context.state.Settings.KeywordColouringOff) {
-        m_box.loadText(text);
+        editor.loadText(text);
         return;
     }
-    fullPass(text.size(), [&] { loadColoured(m_box, std::move(text), m_keywords, m_context.state.Settings); });
+    fullPass(text.size(), [&] { loadColoured(editor, std::move(text), m_keywords, m_context.state.Settings); });
 }
 
 void fmrconfigedit::beginDocumentChange()

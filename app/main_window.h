@@ -77,7 +77,7 @@ private:
     void connectWindows();
     void connectBrowsers();
     void layOut();
-    void showOpened(std::string text);
+    void showOpened(RichTextBox& editor, std::string text);
     void fullPass(std::size_t length, const std::function<void()>& colour);
 
     Context& m_context;
