@@ -219,14 +219,13 @@ void MeaningCheck::judgeMacroUses()
         int count = tokens.kind(tokens.behind(at)) == TokenKind::CloseParenthesis ? 0 : 1;
         for (;; at = tokens.behind(at)) {
             const TokenKind kind = tokens.kind(at);
+            if (kind == TokenKind::End || kind == TokenKind::Semicolon || kind == TokenKind::OpenBrace
+                || (kind == TokenKind::CloseParenthesis && --depth == 0))
+                break;
             if (kind == TokenKind::OpenParenthesis)
                 ++depth;
-            else if (kind == TokenKind::CloseParenthesis && --depth == 0)
-                break;
             else if (kind == TokenKind::Comma && depth == 1)
                 ++count;
-            else if (kind == TokenKind::End || kind == TokenKind::Semicolon || kind == TokenKind::OpenBrace)
-                break;
         }
         const std::string_view name = tokens.textOf(i);
         if (tokens.kind(at) != TokenKind::CloseParenthesis)

@@ -21,14 +21,15 @@ std::string quoted(std::string_view text)
     constexpr std::string_view digits = "0123456789abcdef";
     std::string result = "\"";
     for (const char character : text) {
-        if (character == '"' || character == '\\')
+        if (character == '"' || character == '\\') {
             result.append(1, '\\').append(1, character);
-        else if (static_cast<unsigned char>(character) < ' ')
+        } else if (static_cast<unsigned char>(character) < ' ') {
             result.append("\\u00")
                 .append(1, digits[static_cast<std::size_t>(character) >> 4])
                 .append(1, digits[static_cast<std::size_t>(character) & 15]);
-        else
+        } else {
             result += character;
+        }
     }
     return result += '"';
 }

@@ -67,7 +67,7 @@ private:
 
     // Nodes.
     NodeIndex open(NodeKind kind, TokenIndex first);
-    void close(NodeIndex node);
+    void close(NodeIndex index);
 
     // Statements.
     void statement();
@@ -76,7 +76,7 @@ private:
     void classStatement();
     bool misspelledClass();
     void classHead(NodeIndex node);
-    void className(NodeIndex node, std::uint8_t Node::*place);
+    void className(NodeIndex index, std::uint8_t Node::*place);
     void behindClassHead(NodeIndex node);
     void withoutBody(NodeIndex node);
     bool hasBodyWithoutBrace(NodeIndex node) const;
@@ -136,7 +136,7 @@ private:
               std::vector<TextEdit> mend = {});
     void tellMissingSemicolon(TokenIndex last);
     TextRange spanOf(TokenIndex first, TokenIndex last) const;
-    TextRange headOf(NodeIndex node) const;
+    TextRange headOf(NodeIndex index) const;
 
     const Tokens& m_tokens;
     const Macros& m_macros;
