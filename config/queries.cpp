@@ -102,10 +102,11 @@ std::optional<NodeIndex> declarationOf(const Tree& tree, std::uint32_t offset, s
 {
     std::vector<NodeIndex> scopes = classPath(tree, offset);
     scopes.insert(scopes.begin(), 0);
+    std::reverse(scopes.begin(), scopes.end());
     std::optional<NodeIndex> behind;
-    for (auto scope = scopes.rbegin(); scope != scopes.rend(); ++scope) {
+    for (const NodeIndex scope : scopes) {
         std::optional<NodeIndex> found;
-        for (NodeIndex i = tree.firstChild(*scope); i < tree.endOfChildren(*scope); i = tree[i].next) {
+        for (NodeIndex i = tree.firstChild(scope); i < tree.endOfChildren(scope); i = tree[i].next) {
             if (tree[i].kind != NodeKind::Class || !sameName(tree.nameOf(i), name))
                 continue;
             const std::uint32_t start = tree.rangeOf(i).start;

@@ -62,12 +62,10 @@ PackerWindow::~PackerWindow()
 
 void PackerWindow::start()
 {
-    if (m_request.document.empty())
-        m_ui->lblresult->setText(
-            tr("This is the packer that \"Make Pbo\" in the editor starts. It was not told which "
-               "document to pack, or the document is not there."));
-    else
-        lookForErrors();
+    if (!m_request.document.empty())
+        return lookForErrors();
+    m_ui->lblresult->setText(tr("This is the packer that \"Make Pbo\" in the editor starts. It was not told which "
+                                "document to pack, or the document is not there."));
 }
 
 void PackerWindow::done(int result)
