@@ -7,6 +7,7 @@
 #include "platform/shown_text.h"
 #include "ui_stringtable_window.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QTextDocument>
 
@@ -102,6 +103,7 @@ void Form4::connectControls()
     // A click on the current language shows the text of a key that became current since.
     connect(m_ui->List2, &QListWidget::itemClicked, this, &Form4::showText);
     connect(m_ui->Text1, &QLineEdit::textChanged, this, &Form4::storeKey);
+    m_ui->Text2->installEventFilter(this);
     connect(m_ui->Text2, &QPlainTextEdit::textChanged, this, &Form4::storeText);
 }
 
@@ -132,6 +134,14 @@ void Form4::removeAllKeys()
     enableEditing(false);
     m_ui->Command5->setEnabled(false);
     m_ui->Command1->setEnabled(true);
+}
+
+/// A typed letter and those before it are one undo step of the box: to drop it later would leave a step that brings it
+/// back.
+bool Form4::eventFilter(QObject* watched, QEvent* event)
+{
+    const auto* key = event->type() == QEvent::KeyPress ? static_cast<const QKeyEvent*>(event) : nullptr;
+    return (key && !m_context.texts.codePage().holds(fromQt(key->text()))) || QDialog::eventFilter(watched, event);
 }
 
 void Form4::showKey(int row)

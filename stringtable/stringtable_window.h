@@ -26,6 +26,9 @@ public:
     Form4(Context& context, TableStore& store, QWidget* parent = nullptr);
     ~Form4() override;
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void connectControls();
     void addKey();
